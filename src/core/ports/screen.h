@@ -1,0 +1,22 @@
+#pragma once
+
+namespace qor {
+
+// The screen in twips (1/1440 inch) and its twips-per-pixel factors.
+struct ScreenMetrics {
+    double widthTwips = 0;
+    double heightTwips = 0;
+    double twipsPerPixelX = 15;
+    double twipsPerPixelY = 15;
+
+    double widthPixels() const { return widthTwips / twipsPerPixelX; }
+    double heightPixels() const { return heightTwips / twipsPerPixelY; }
+};
+
+class Screen {
+public:
+    virtual ~Screen() = default;
+    virtual ScreenMetrics metrics() = 0;
+};
+
+}  // namespace qor

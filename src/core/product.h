@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/version.h"
+
+namespace qor::product {
+
+// The product's addresses, in one place until the real ones exist.
+inline constexpr std::string_view webSite = "http://www.qor.example.org/";
+inline constexpr std::string_view email = "contact@qor.example.org";
+
+// "2.0"
+std::string versionText();
+// "2.0.450": major, minor and the build's revision.
+std::string fullVersionText();
+
+}  // namespace qor::product
