@@ -39,7 +39,7 @@ fuzz:
 	  -DQOR_LIBFUZZER=ON -DQOR_BUILD_EDITOR=OFF -DQOR_BUILD_TESTS=OFF -DQOR_BUILD_BENCH=OFF
 	cmake --build $(FUZZ_BUILD) -j $(JOBS)
 	@set -e; for f in $(FUZZ_BUILD)/fuzz/*_fuzz; do \
-	  name=$$(basename $$f); mkdir -p $(FUZZ_BUILD)/corpus/$$name; \
+	  [ -x $$f ] || continue; name=$$(basename $$f); mkdir -p $(FUZZ_BUILD)/corpus/$$name; \
 	  echo "== $$name for $(FUZZ_SECONDS) s"; \
 	  $$f -max_total_time=$(FUZZ_SECONDS) -timeout=10 -rss_limit_mb=2048 \
 	      $(FUZZ_BUILD)/corpus/$$name fuzz/corpus/$$name; \
