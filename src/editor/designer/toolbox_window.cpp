@@ -1,0 +1,47 @@
+#include "editor/designer/toolbox_window.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "editor/platform/twips.h"
+
+namespace qor {
+
+ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
+{
+    setObjectName(QStringLiteral("Form1"));
+    setWindowTitle(QStringLiteral("Objets"));
+
+    struct Group {
+        const char* caption;
+        const char* name;
+        std::vector<const char*> commands;
+    };
+    const Group groups[] = {
+        {"Boutons", "Frame1", {"Multimédia", "Quitter", "Code VBS"}},
+        {"Boîte de texte", "Frame2", {"Créer"}},
+        {"Forme du menu", "Frame3", {"Editeur", "Transparence"}},
+    };
+    auto* layout = new QVBoxLayout(this);
+    int n = 0;
+    for (const auto& g : groups) {
+        auto* box = new QGroupBox(QString::fromUtf8(g.caption), this);
+        box->setObjectName(QString::fromUtf8(g.name));
+        auto* inner = new QVBoxLayout(box);
+        for (const char* caption : g.commands) {
+            auto* button = new QPushButton(QString::fromUtf8(caption), box);
+            button->setObjectName(QStringLiteral("Command%1").arg(n + 1));
+            button->setEnabled(false);
+            inner->addWidget(button);
+            commands_[n++] = button;
+        }
+        layout->addWidget(box);
+    }
+    layout->addStretch();
+    // A narrow column beside the worksheet.
+    setFixedWidth(twipsToPixels(1800, screen.twipsPerPixelX));
+    runLoadHooks(*this, hooks);
+}
+
+}  // namespace qor

@@ -1,0 +1,25 @@
+#include "editor/designer/worksheet_window.h"
+
+#include <QLabel>
+#include <QResizeEvent>
+
+namespace qor {
+
+WorksheetWindow::WorksheetWindow(const ScreenMetrics&, WindowHooks& hooks)
+    : ToolWindow(nullptr, Qt::Window)
+{
+    setObjectName(QStringLiteral("Form3"));
+    setWindowTitle(QStringLiteral("Feuille de travail"));
+    background_ = new QLabel(this);
+    background_->setObjectName(QStringLiteral("Image1"));
+    background_->setScaledContents(true);
+    runLoadHooks(*this, hooks);
+}
+
+void WorksheetWindow::resizeEvent(QResizeEvent* event)
+{
+    ToolWindow::resizeEvent(event);
+    background_->setGeometry(rect());
+}
+
+}  // namespace qor

@@ -1,0 +1,221 @@
+#include "editor/platform/qt_dialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QPushButton>
+
+#include "editor/platform/colours.h"
+#include "editor/platform/file_filter.h"
+#include "editor/platform/qt_text.h"
+
+namespace qor {
+namespace {
+
+QWidget* dialogParent()
+{
+    return QApplication::activeWindow();
+}
+
+QMessageBox::Icon iconOf(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Critical: return QMessageBox::Critical;
+    case MessageIcon::Question: return QMessageBox::Question;
+    case MessageIcon::Exclamation: return QMessageBox::Warning;
+    case MessageIcon::Information: return QMessageBox::Information;
+    case MessageIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct ButtonSpec {
+    QMessageBox::StandardButton button;
+    const char* text;
+};
+
+std::vector<ButtonSpec> buttonsOf(MessageButtons buttons)
+{
+    const ButtonSpec ok{QMessageBox::Ok, "OK"};
+    const ButtonSpec cancel{QMessageBox::Cancel, "Annuler"};
+    const ButtonSpec yes{QMessageBox::Yes, "Oui"};
+    const ButtonSpec no{QMessageBox::No, "Non"};
+    switch (buttons) {
+    case MessageButtons::Ok: return {ok};
+    case MessageButtons::OkCancel: return {ok, cancel};
+    case MessageButtons::YesNo: return {yes, no};
+    case MessageButtons::YesNoCancel: return {yes, no, cancel};
+    }
+    return {ok};
+}
+
+QString folderOrCurrent(const std::string& folder)
+{
+    return folder.empty() ? QDir::currentPath() : toQt(folder);
+}
+
+}  // namespace
+
+std::unique_ptr<QMessageBox> buildMessageBox(const Message& message, QWidget* parent)
+{
+    auto box = std::make_unique<QMessageBox>(parent);
+    box->setWindowTitle(toQt(message.title));
+    // Plain text: messages hold "<" and ">" ("<inconnu>", "QOR <-> Manuel").
+    box->setTextFormat(Qt::PlainText);
+    box->setText(toQtLines(message.text));
+    box->setIcon(iconOf(message.icon));
+    const auto specs = buttonsOf(message.buttons);
+    QMessageBox::StandardButtons set;
+    for (const auto& s : specs)
+        set |= s.button;
+    box->setStandardButtons(set);
+    for (const auto& s : specs)
+        box->button(s.button)->setText(QString::fromUtf8(s.text));
+    const int index = message.defaultButton >= 0 && message.defaultButton < int(specs.size())
+                          ? message.defaultButton : 0;
+    box->setDefaultButton(specs[std::size_t(index)].button);
+    if (message.systemModal) {
+        box->setWindowModality(Qt::ApplicationModal);
+        box->setWindowFlag(Qt::WindowStaysOnTopHint, true);
+    } else {
+        box->setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    }
+    return box;
+}
+
+Answer answerOf(QMessageBox::StandardButton button)
+{
+    switch (button) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    case QMessageBox::Cancel: return Answer::Cancel;
+    default: return Answer::Ok;
+    }
+}
+
+Answer QtDialogs::message(const Message& message)
+{
+    auto box = buildMessageBox(message, dialogParent());
+    box->exec();
+    // Closing the box with its title bar button counts as its escape button.
+    const auto clicked = box->standardButton(box->clickedButton());
+    if (clicked == QMessageBox::NoButton)
+        return message.buttons == MessageButtons::Ok ? Answer::Ok
+               : message.buttons == MessageButtons::YesNo ? Answer::No : Answer::Cancel;
+    return answerOf(clicked);
+}
+
+std::string QtDialogs::inputBox(const std::string& prompt, const std::string& title,
+                                const std::string& defaultText)
+{
+    QInputDialog dialog(dialogParent());
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setWindowTitle(toQt(title));
+    dialog.setLabelText(toQtLines(prompt));
+    dialog.setTextValue(toQt(defaultText));
+    dialog.setOkButtonText(QStringLiteral("OK"));
+    dialog.setCancelButtonText(QStringLiteral("Annuler"));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return fromQt(dialog.textValue());
+}
+
+void configureFileDialog(QFileDialog& dialog, const FileDialogRequest& request, bool save)
+{
+    dialog.setWindowTitle(toQt(request.title));
+    dialog.setDirectory(folderOrCurrent(request.initialFolder));
+    const QStringList filters = qtNameFilters(request.filter);
+    if (!filters.isEmpty())
+        dialog.setNameFilters(filters);
+    if (save) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+        dialog.setDefaultSuffix(QString());
+    } else {
+        dialog.setAcceptMode(QFileDialog::AcceptOpen);
+        dialog.setFileMode(QFileDialog::ExistingFile);
+    }
+    if (!request.initialName.empty())
+        dialog.selectFile(toQt(request.initialName));
+}
+
+namespace {
+
+std::optional<std::string> runFileDialog(const FileDialogRequest& request, bool save)
+{
+    QFileDialog dialog(dialogParent());
+    configureFileDialog(dialog, request, save);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return fromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
+}  // namespace
+
+std::optional<std::string> QtDialogs::openFile(const FileDialogRequest& request)
+{
+    return runFileDialog(request, false);
+}
+
+std::optional<std::string> QtDialogs::saveFile(const FileDialogRequest& request)
+{
+    return runFileDialog(request, true);
+}
+
+std::optional<std::string> QtDialogs::pickFolder(const std::string& prompt)
+{
+    const QString folder = QFileDialog::getExistingDirectory(dialogParent(), toQtLines(prompt),
+                                                             QDir::currentPath());
+    if (folder.isEmpty())
+        return std::nullopt;
+    return fromQt(QDir::toNativeSeparators(folder));
+}
+
+std::optional<Colour> QtDialogs::pickColour(Colour initial)
+{
+    const QColor chosen = QColorDialog::getColor(toQColor(initial, QApplication::palette()),
+                                                 dialogParent());
+    if (!chosen.isValid())
+        return std::nullopt;
+    return fromQColor(chosen);
+}
+
+std::optional<FontChoice> QtDialogs::pickFont(const FontChoice& initial)
+{
+    bool ok = false;
+    const QFont chosen = QFontDialog::getFont(&ok, toQFont(initial), dialogParent());
+    if (!ok)
+        return std::nullopt;
+    return fromQFont(chosen);
+}
+
+QFont toQFont(const FontChoice& font)
+{
+    QFont f(toQt(font.name));
+    if (font.size > 0)
+        f.setPointSizeF(font.size);
+    f.setBold(font.bold);
+    f.setItalic(font.italic);
+    f.setStrikeOut(font.strikethrough);
+    f.setUnderline(font.underline);
+    return f;
+}
+
+FontChoice fromQFont(const QFont& font)
+{
+    FontChoice c;
+    c.name = fromQt(font.family());
+    c.size = font.pointSizeF() > 0 ? font.pointSizeF() : 8;
+    c.bold = font.bold();
+    c.italic = font.italic();
+    c.strikethrough = font.strikeOut();
+    c.underline = font.underline();
+    return c;
+}
+
+}  // namespace qor

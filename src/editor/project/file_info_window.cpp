@@ -1,0 +1,118 @@
+#include "editor/project/file_info_window.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "editor/platform/qt_text.h"
+
+namespace qor {
+namespace {
+
+QLineEdit* lineField(const char* name, bool readOnly)
+{
+    auto* f = new QLineEdit;
+    f->setObjectName(QString::fromUtf8(name));
+    f->setReadOnly(readOnly);
+    return f;
+}
+
+}  // namespace
+
+FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("Form19"));
+    setWindowTitle(QStringLiteral("Propriétés"));
+    setModal(true);
+
+    auto* layout = new QVBoxLayout(this);
+    fileLine_ = new QLabel(this);
+    fileLine_->setObjectName(QStringLiteral("Label1"));
+    fileLine_->setTextFormat(Qt::PlainText);
+    layout->addWidget(fileLine_);
+
+    auto* form = new QFormLayout;
+    editor_ = lineField("Text5", true);
+    version_ = lineField("Text6", true);
+    fileVersion_ = lineField("Text7", true);
+    authorName_ = lineField("Text1", false);
+    authorEmail_ = lineField("Text2", false);
+    authorWebSite_ = lineField("Text3", false);
+    notes_ = new QPlainTextEdit;
+    notes_->setObjectName(QStringLiteral("Text4"));
+    notes_->setTabChangesFocus(true);
+    form->addRow(QStringLiteral("Editeur :"), editor_);
+    form->addRow(QStringLiteral("Version :"), version_);
+    form->addRow(QStringLiteral("Version fichier :"), fileVersion_);
+    form->addRow(QStringLiteral("Nom de l'auteur :"), authorName_);
+    form->addRow(QStringLiteral("Adresse e-mail :"), authorEmail_);
+    form->addRow(QStringLiteral("Site internet :"), authorWebSite_);
+    form->addRow(QStringLiteral("Notes :"), notes_);
+    layout->addLayout(form);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    auto* ok = new QPushButton(QStringLiteral("&Valider"), this);
+    ok->setObjectName(QStringLiteral("Command1"));
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(QStringLiteral("&Annuler"), this);
+    cancel->setObjectName(QStringLiteral("Command2"));
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    layout->addLayout(buttons);
+
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(notes_, &QPlainTextEdit::textChanged, this, &FileInfoWindow::applyNotesRule);
+
+    runLoadHooks(*this, hooks);
+}
+
+void FileInfoWindow::fill(const FileInfoView& view)
+{
+    fileLine_->setText(toQt(view.fileLine));
+    editor_->setText(toQt(view.editor));
+    version_->setText(toQt(view.version));
+    fileVersion_->setText(toQt(view.fileVersion));
+    authorName_->setText(toQt(view.authorName));
+    authorEmail_->setText(toQt(view.authorEmail));
+    authorWebSite_->setText(toQt(view.authorWebSite));
+    notes_->setPlainText(toQtLines(view.notes));
+}
+
+FileInfoView FileInfoWindow::values() const
+{
+    return {fromQt(fileLine_->text()),        fromQt(editor_->text()),
+            fromQt(version_->text()),         fromQt(fileVersion_->text()),
+            fromQt(authorName_->text()),      fromQt(authorEmail_->text()),
+            fromQt(authorWebSite_->text()),   fromQtLines(notes_->toPlainText())};
+}
+
+QLineEdit* FileInfoWindow::field(const char* name) const
+{
+    return findChild<QLineEdit*>(QString::fromUtf8(name));
+}
+
+void FileInfoWindow::applyNotesRule()
+{
+    if (!notesRule_ || applyingRule_)
+        return;
+    const QString typed = notes_->toPlainText();
+    const QString kept = toQtLines(notesRule_(fromQtLines(typed)));
+    if (kept == typed)
+        return;
+    // Keep the caret where the user was typing, moved by what the rule changed.
+    const int caret = notes_->textCursor().position() + int(kept.size() - typed.size());
+    applyingRule_ = true;
+    notes_->setPlainText(kept);
+    QTextCursor cursor = notes_->textCursor();
+    cursor.setPosition(std::clamp(caret, 0, int(kept.size())));
+    notes_->setTextCursor(cursor);
+    applyingRule_ = false;
+}
+
+}  // namespace qor

@@ -1,0 +1,39 @@
+#include "editor/ui/mouse_position_window.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "editor/platform/qt_text.h"
+
+namespace qor {
+
+MousePositionWindow::MousePositionWindow(WindowHooks& hooks)
+{
+    setObjectName(QStringLiteral("Form10"));
+    setWindowTitle(QStringLiteral("Position de la souris"));
+    auto* grid = new QGridLayout(this);
+    const char* resting[4] = {"X=0000", "Y=0000", "X=0000", "Y=0000"};
+    for (int i = 0; i < 4; ++i) {
+        auto* label = new QLabel(QString::fromUtf8(resting[i]), this);
+        label->setObjectName(QStringLiteral("Label%1").arg(i + 1));
+        // Wide enough for "X=66.66666px" without the window jumping.
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("X=00000.00000px")));
+        grid->addWidget(label, i / 2, i % 2);
+        labels_[std::size_t(i)] = label;
+    }
+    setFixedSize(sizeHint());
+    runLoadHooks(*this, hooks);
+}
+
+void MousePositionWindow::setReadouts(const std::array<std::string, 4>& texts)
+{
+    for (std::size_t i = 0; i < 4; ++i)
+        labels_[i]->setText(toQt(texts[i]));
+}
+
+QString MousePositionWindow::readout(int i) const
+{
+    return labels_[std::size_t(i)]->text();
+}
+
+}  // namespace qor

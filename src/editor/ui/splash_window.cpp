@@ -1,0 +1,67 @@
+#include "editor/ui/splash_window.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+
+#include "editor/platform/twips.h"
+
+// Resources live in the editor library; a static library must register them
+// by hand.
+static void registerEditorResources()
+{
+    Q_INIT_RESOURCE(editor);
+}
+
+namespace qor {
+
+SplashWindow::SplashWindow(const ScreenMetrics& screen, WindowHooks& hooks)
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+{
+    registerEditorResources();
+    setObjectName(QStringLiteral("Splash"));
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    picture_.load(QStringLiteral(":/qor/splash.png"));
+    setFixedSize(twipsToPixels(kWidth, kHeight, screen));
+    timer_.setSingleShot(true);
+    timer_.setInterval(kTimeoutMs);
+    connect(&timer_, &QTimer::timeout, this, &QWidget::close);
+    runLoadHooks(*this, hooks);
+}
+
+void SplashWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (picture_.isNull())
+        painter.fillRect(rect(), palette().window());
+    else
+        painter.drawPixmap(rect(), picture_);
+}
+
+void SplashWindow::mousePressEvent(QMouseEvent*)
+{
+    close();
+}
+
+void SplashWindow::keyPressEvent(QKeyEvent*)
+{
+    close();
+}
+
+void SplashWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    closedOnce_ = false;
+    timer_.start();
+}
+
+void SplashWindow::closeEvent(QCloseEvent* event)
+{
+    timer_.stop();
+    event->accept();
+    if (!closedOnce_) {
+        closedOnce_ = true;
+        emit closed();
+    }
+}
+
+}  // namespace qor

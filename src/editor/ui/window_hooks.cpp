@@ -1,0 +1,21 @@
+#include "editor/ui/window_hooks.h"
+
+namespace qor {
+
+void WindowHooks::translate(QWidget&) {}
+
+void WindowHooks::applyAppearance(QWidget&) {}
+
+WindowHooks& WindowHooks::none()
+{
+    static WindowHooks hooks;
+    return hooks;
+}
+
+void runLoadHooks(QWidget& window, WindowHooks& hooks)
+{
+    hooks.translate(window);
+    hooks.applyAppearance(window);
+}
+
+}  // namespace qor
