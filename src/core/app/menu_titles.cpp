@@ -2,20 +2,20 @@
 
 namespace qor {
 
-std::vector<MenuTitleBox> layoutMenuTitles(const std::vector<double>& captionWidths)
+std::vector<TitleBox> layOutMenuTitles(const std::vector<double>& textWidths)
 {
-    std::vector<MenuTitleBox> boxes;
-    boxes.reserve(captionWidths.size());
+    std::vector<TitleBox> boxes;
+    boxes.reserve(textWidths.size());
     double left = kMenuTitleFirstLeft;
-    for (double captionWidth : captionWidths) {
-        MenuTitleBox box{left, kMenuTitleTop, captionWidth + kMenuTitlePadding, kMenuTitleHeight};
+    for (double textWidth : textWidths) {
+        TitleBox box{left, kMenuTitleTop, textWidth + kMenuTitlePadding, kMenuTitleHeight};
         boxes.push_back(box);
         left = box.right();
     }
     return boxes;
 }
 
-int menuTitleAt(const std::vector<MenuTitleBox>& boxes, double x, double y)
+int menuTitleAt(const std::vector<TitleBox>& boxes, double x, double y)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const auto& b = boxes[i];
@@ -25,7 +25,7 @@ int menuTitleAt(const std::vector<MenuTitleBox>& boxes, double x, double y)
     return -1;
 }
 
-MenuPopupPoint menuPopupPoint(const MenuTitleBox& box)
+MenuPopupPoint menuPopupPoint(const TitleBox& box)
 {
     return {box.left, box.bottom()};
 }

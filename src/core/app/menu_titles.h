@@ -7,7 +7,7 @@ namespace qor {
 
 // Where one of the main window's title captions stands, in twips from the
 // window's inner top-left corner.
-struct MenuTitleBox {
+struct TitleBox {
     double left = 0;
     double top = 0;
     double width = 0;
@@ -16,7 +16,7 @@ struct MenuTitleBox {
     double right() const { return left + width; }
     double bottom() const { return top + height; }
 
-    friend bool operator==(const MenuTitleBox&, const MenuTitleBox&) = default;
+    friend bool operator==(const TitleBox&, const TitleBox&) = default;
 };
 
 // The fixed measures of the title row.
@@ -25,14 +25,14 @@ inline constexpr double kMenuTitleHeight = 225;
 inline constexpr double kMenuTitleFirstLeft = 120;
 inline constexpr double kMenuTitlePadding = 240;   // added to each caption's own width
 
-// The boxes of the titles whose captions are captionWidths twips wide, in
+// The boxes of the titles whose captions are textWidths twips wide, in
 // title order: the first stays 120 twips from the left, each one is its
 // caption plus 240 twips wide and starts where the previous one ends.
-std::vector<MenuTitleBox> layoutMenuTitles(const std::vector<double>& captionWidths);
+std::vector<TitleBox> layOutMenuTitles(const std::vector<double>& textWidths);
 
 // The title under the point (x, y), or -1 when the point is on no title.
 // A title's right edge belongs to the next one.
-int menuTitleAt(const std::vector<MenuTitleBox>& boxes, double x, double y);
+int menuTitleAt(const std::vector<TitleBox>& boxes, double x, double y);
 
 // Where the menu of a title pops up: the title's bottom-left corner.
 struct MenuPopupPoint {
@@ -40,6 +40,6 @@ struct MenuPopupPoint {
     double y = 0;
     friend bool operator==(const MenuPopupPoint&, const MenuPopupPoint&) = default;
 };
-MenuPopupPoint menuPopupPoint(const MenuTitleBox& box);
+MenuPopupPoint menuPopupPoint(const TitleBox& box);
 
 }  // namespace qor

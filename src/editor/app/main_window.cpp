@@ -42,8 +42,8 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     for (int i = 0; i < kTitleCount; ++i) {
         auto* title = new MenuTitleLabel(i, toQt(tree[std::size_t(i)].title), this);
         titles_[std::size_t(i)] = title;
-        connect(title, &MenuTitleLabel::hovered, this, &MainWindow::highlightMenuTitle);
-        connect(title, &MenuTitleLabel::pressed, this, &MainWindow::popUpMenu);
+        connect(title, &MenuTitleLabel::hovered, this, &MainWindow::menuTitleHovered);
+        connect(title, &MenuTitleLabel::pressed, this, &MainWindow::menuTitlePressed);
         // The title row has no access keys of its own; the menus' captions
         // ("&Fichier" ...) give Alt+letter shortcuts to the same menus.
         const QKeySequence key = QKeySequence::mnemonic(toQt(tree[std::size_t(i)].caption));
@@ -57,7 +57,7 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     appearance_->hide();
 
     setCaption("QOR v" + product::versionText() + " - créateur de menus");
-    layoutTitles();
+    placeMenuTitles(layOutMenuTitles(menuTitleTextWidths()));
     resetMenuTitles();
     setAppearanceEditorVisible(false);
 
@@ -65,7 +65,8 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     titleReset_.setObjectName(QStringLiteral("Timer1"));
     titleReset_.setSingleShot(true);
     titleReset_.setInterval(300);
-    connect(&titleReset_, &QTimer::timeout, this, &MainWindow::resetMenuTitles);
+    connect(&titleReset_, &QTimer::timeout, this, &MainWindow::menuTitlesResetRequested);
+    setLocalTitleHandling(true);
 
     runLoadHooks(*this, hooks);
     titleReset_.start();
@@ -236,12 +237,32 @@ void MainWindow::setLanguages(const std::vector<std::string>& names, int checked
 
 // ---- titles ----------------------------------------------------------------
 
-void MainWindow::layoutTitles()
+void MainWindow::setLocalTitleHandling(bool on)
+{
+    for (const auto& c : localTitleHandling_)
+        disconnect(c);
+    localTitleHandling_.clear();
+    if (!on)
+        return;
+    localTitleHandling_ << connect(this, &MainWindow::menuTitleHovered, this, &MainWindow::highlightMenuTitle)
+                        << connect(this, &MainWindow::menuTitlePressed, this,
+                                   qOverload<int>(&MainWindow::popUpMenu))
+                        << connect(this, &MainWindow::menuTitlesResetRequested, this,
+                                   &MainWindow::resetMenuTitles);
+}
+
+std::vector<double> MainWindow::menuTitleTextWidths() const
 {
     std::vector<double> widths;
     for (auto* title : titles_)
         widths.push_back(title->fontMetrics().horizontalAdvance(title->text()) * screen_.twipsPerPixelX);
-    boxes_ = layoutMenuTitles(widths);
+    return widths;
+}
+
+void MainWindow::placeMenuTitles(const std::vector<TitleBox>& boxes)
+{
+    boxes_ = boxes;
+    boxes_.resize(kTitleCount);
     for (int i = 0; i < kTitleCount; ++i) {
         const auto& b = boxes_[std::size_t(i)];
         const int left = twipsToPixels(b.left, screen_.twipsPerPixelX);
@@ -282,8 +303,16 @@ void MainWindow::popUpMenu(int i)
     if (i < 0 || i >= kTitleCount)
         return;
     highlightMenuTitle(i);
-    const auto* title = titles_[std::size_t(i)];
-    menus_[std::size_t(i)]->popup(title->mapToGlobal(QPoint(0, title->height())));
+    const MenuPopupPoint at = menuPopupPoint(boxes_[std::size_t(i)]);
+    popUpMenuAt(i, at.x, at.y);
+}
+
+void MainWindow::popUpMenuAt(int i, double left, double top)
+{
+    if (i < 0 || i >= kTitleCount)
+        return;
+    const QPoint at(twipsToPixels(left, screen_.twipsPerPixelX), twipsToPixels(top, screen_.twipsPerPixelY));
+    menus_[std::size_t(i)]->popup(mapToGlobal(at));
 }
 
 void MainWindow::setTitleColours(const QColor& windowBack, const QColor& text)
@@ -337,26 +366,26 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::mousePressEvent(QMouseEvent* event)
 {
-    resetMenuTitles();
+    emit menuTitlesResetRequested();
     QWidget::mousePressEvent(event);
 }
 
 void MainWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    resetMenuTitles();
+    emit menuTitlesResetRequested();
     QWidget::mouseMoveEvent(event);
 }
 
 void MainWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
-        resetMenuTitles();
+        emit menuTitlesResetRequested();
     QWidget::changeEvent(event);
 }
 
 void MainWindow::focusOutEvent(QFocusEvent* event)
 {
-    resetMenuTitles();
+    emit menuTitlesResetRequested();
     QWidget::focusOutEvent(event);
 }
 

@@ -56,13 +56,23 @@ public:
 
     void setCaption(const std::string& caption);
 
-    // Menu titles.
+    // Menu titles. The pointer over a title, a press on one and everything
+    // that resets them arrive as signals; by default the window answers them
+    // itself (highlight, pop up, reset). A controller that wants to decide
+    // turns that off and calls the operations below.
     MenuTitleLabel* menuTitle(int i) const { return titles_[std::size_t(i)]; }
     QMenu* menu(int i) const { return menus_[std::size_t(i)]; }
-    const std::vector<MenuTitleBox>& menuTitleBoxes() const { return boxes_; }
+    void setLocalTitleHandling(bool on);
+    // The widths in twips of the six captions' texts, titles 0 to 5.
+    std::vector<double> menuTitleTextWidths() const;
+    void placeMenuTitles(const std::vector<TitleBox>& boxes);
+    const std::vector<TitleBox>& menuTitleBoxes() const { return boxes_; }
     void resetMenuTitles();
     void highlightMenuTitle(int i);
+    // Highlights title i and pops its menu under it.
     void popUpMenu(int i);
+    // Pops menu i with its top-left corner at (left, top) twips of the window.
+    void popUpMenuAt(int i, double left, double top);
     int highlightedMenuTitle() const { return highlighted_; }
 
     // The colours of the current appearance that the titles use: normal
@@ -101,6 +111,11 @@ public:
     // From now on closing really closes (the quit flow has agreed).
     void releaseForQuit() { released_ = true; }
 
+signals:
+    void menuTitleHovered(int index);
+    void menuTitlePressed(int index);
+    void menuTitlesResetRequested();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -119,7 +134,6 @@ private:
     void buildMenus();
     void addEntries(QMenu* menu, const std::vector<MenuEntry>& entries);
     QAction* addCommand(QMenu* menu, const MenuEntry& entry);
-    void layoutTitles();
     void paintTitle(int i, bool highlighted);
     void clearList(ListSlot& slot);
     QAction* addListAction(ListSlot& slot, const QString& caption, int index, CommandId id,
@@ -129,7 +143,7 @@ private:
     CommandHandler handler_;
     std::array<MenuTitleLabel*, kTitleCount> titles_{};
     std::array<QMenu*, kTitleCount> menus_{};
-    std::vector<MenuTitleBox> boxes_;
+    std::vector<TitleBox> boxes_;
     std::map<CommandId, QAction*> actions_;
     ListSlot recent_, plugins_, languages_;
     AppearanceFrame* appearance_ = nullptr;
@@ -137,6 +151,7 @@ private:
     QColor back_, text_;
     int highlighted_ = -1;
     bool released_ = false;
+    QList<QMetaObject::Connection> localTitleHandling_;
 };
 
 }  // namespace qor

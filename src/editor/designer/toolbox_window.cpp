@@ -39,8 +39,8 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
         layout->addWidget(box);
     }
     layout->addStretch();
-    // A narrow column beside the worksheet.
-    setFixedWidth(twipsToPixels(1800, screen.twipsPerPixelX));
+    // A column as narrow as its commands allow, beside the worksheet.
+    setFixedWidth(std::max(sizeHint().width(), twipsToPixels(1800, screen.twipsPerPixelX)));
     runLoadHooks(*this, hooks);
 }
 

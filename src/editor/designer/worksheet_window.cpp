@@ -3,9 +3,11 @@
 #include <QLabel>
 #include <QResizeEvent>
 
+#include "editor/platform/twips.h"
+
 namespace qor {
 
-WorksheetWindow::WorksheetWindow(const ScreenMetrics&, WindowHooks& hooks)
+WorksheetWindow::WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : ToolWindow(nullptr, Qt::Window)
 {
     setObjectName(QStringLiteral("Form3"));
@@ -13,6 +15,8 @@ WorksheetWindow::WorksheetWindow(const ScreenMetrics&, WindowHooks& hooks)
     background_ = new QLabel(this);
     background_->setObjectName(QStringLiteral("Image1"));
     background_->setScaledContents(true);
+    // The usual menu size until start-up gives the worksheet the default one.
+    resizeTwips(*this, kDefaultWidth, kDefaultHeight, screen);
     runLoadHooks(*this, hooks);
 }
 

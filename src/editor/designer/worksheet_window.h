@@ -14,6 +14,9 @@ namespace qor {
 class WorksheetWindow : public ToolWindow {
     Q_OBJECT
 public:
+    static constexpr double kDefaultWidth = 12000;
+    static constexpr double kDefaultHeight = 9000;
+
     explicit WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks = WindowHooks::none());
 
     QLabel* background() const { return background_; }

@@ -14,7 +14,10 @@ bool isOurOwn(const QString& program, const QString& ownExecutable)
     if (ownExecutable.isEmpty())
         return false;
     const QFileInfo own(ownExecutable);
-    return info.canonicalFilePath() == own.canonicalFilePath() && !own.canonicalFilePath().isEmpty();
+    // Through links when both exist, else as written.
+    if (info.exists() && own.exists())
+        return info.canonicalFilePath() == own.canonicalFilePath();
+    return info.absoluteFilePath() == own.absoluteFilePath();
 }
 
 }  // namespace

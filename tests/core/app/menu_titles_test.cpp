@@ -10,7 +10,7 @@ TEST(MenuTitles, EachTitleStartsWhereThePreviousEnds)
     struct Case {
         const char* name;
         std::vector<double> widths;
-        std::vector<MenuTitleBox> expected;
+        std::vector<TitleBox> expected;
     };
     const Case cases[] = {
         {"none", {}, {}},
@@ -31,13 +31,13 @@ TEST(MenuTitles, EachTitleStartsWhereThePreviousEnds)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        EXPECT_EQ(layoutMenuTitles(c.widths), c.expected);
+        EXPECT_EQ(layOutMenuTitles(c.widths), c.expected);
     }
 }
 
 TEST(MenuTitles, PointFindsTheTitleUnderIt)
 {
-    const auto boxes = layoutMenuTitles({600, 300});   // [120, 960) and [960, 1500)
+    const auto boxes = layOutMenuTitles({600, 300});   // [120, 960) and [960, 1500)
     struct Case { double x, y; int expected; };
     const Case cases[] = {
         {120, 15, 0},       // top-left corner belongs to the title
@@ -55,7 +55,7 @@ TEST(MenuTitles, PointFindsTheTitleUnderIt)
 
 TEST(MenuTitles, MenuPopsAtTheTitlesBottomLeftCorner)
 {
-    const auto boxes = layoutMenuTitles({600, 300});
+    const auto boxes = layOutMenuTitles({600, 300});
     EXPECT_EQ(menuPopupPoint(boxes[0]), (MenuPopupPoint{120, 240}));
     EXPECT_EQ(menuPopupPoint(boxes[1]), (MenuPopupPoint{960, 240}));
 }
