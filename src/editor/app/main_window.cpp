@@ -1,6 +1,7 @@
 #include "editor/app/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
 #include <QFontMetrics>
@@ -378,14 +379,17 @@ void MainWindow::mouseMoveEvent(QMouseEvent* event)
 
 void MainWindow::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    // A popped menu takes the focus without deactivating anything: its title
+    // stays highlighted while it is open.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && !QApplication::activePopupWidget())
         emit menuTitlesResetRequested();
     QWidget::changeEvent(event);
 }
 
 void MainWindow::focusOutEvent(QFocusEvent* event)
 {
-    emit menuTitlesResetRequested();
+    if (event->reason() != Qt::PopupFocusReason && !QApplication::activePopupWidget())
+        emit menuTitlesResetRequested();
     QWidget::focusOutEvent(event);
 }
 
