@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config git
   qt6-base-dev qt6-base-dev-tools libgl-dev libglx-dev
-  qt6-multimedia-dev
+  qt6-multimedia-dev qt6-translations-l10n
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   lua5.4
   fonts-dejavu-core
