@@ -337,9 +337,12 @@ void MainWindow::setAppearanceEditorVisible(bool visible)
 {
     const double outer = visible ? kWithAppearanceHeight : kMenuOnlyHeight;
     const double inner = outer - kFrameAllowance;
-    const QSize size = twipsToPixels(kInnerWidth, inner, screen_);
+    QSize size = twipsToPixels(kInnerWidth, inner, screen_);
     const int rowBottom = titles_[0]->geometry().bottom() + 1;
     const int margin = twipsToPixels(kMenuTitleFirstLeft, screen_.twipsPerPixelX);
+    // Fonts larger than the layout was drawn for must not squash the editor.
+    if (visible)
+        size.setHeight(std::max(size.height(), rowBottom + 2 * margin + appearance_->minimumSizeHint().height()));
     appearance_->setGeometry(margin, rowBottom + margin, size.width() - 2 * margin,
                              std::max(0, size.height() - rowBottom - 2 * margin));
     appearance_->setVisible(visible);

@@ -38,9 +38,9 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
         }
         layout->addWidget(box);
     }
-    layout->addStretch();
-    // A column as narrow as its commands allow, beside the worksheet.
-    setFixedWidth(std::max(sizeHint().width(), twipsToPixels(1800, screen.twipsPerPixelX)));
+    // A column as narrow and short as its commands allow, beside the worksheet.
+    setFixedSize(std::max(sizeHint().width(), twipsToPixels(1800, screen.twipsPerPixelX)),
+                 sizeHint().height());
     runLoadHooks(*this, hooks);
 }
 

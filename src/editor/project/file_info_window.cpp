@@ -18,6 +18,13 @@ QLineEdit* lineField(const char* name, bool readOnly)
     auto* f = new QLineEdit;
     f->setObjectName(QString::fromUtf8(name));
     f->setReadOnly(readOnly);
+    if (readOnly) {
+        // Shown on the window's colour, and left out of the Tab order.
+        QPalette p = f->palette();
+        p.setColor(QPalette::Base, p.color(QPalette::Window));
+        f->setPalette(p);
+        f->setFocusPolicy(Qt::ClickFocus);
+    }
     return f;
 }
 
@@ -82,6 +89,7 @@ void FileInfoWindow::fill(const FileInfoView& view)
     authorEmail_->setText(toQt(view.authorEmail));
     authorWebSite_->setText(toQt(view.authorWebSite));
     notes_->setPlainText(toQtLines(view.notes));
+    authorName_->setFocus();
 }
 
 FileInfoView FileInfoWindow::values() const

@@ -49,10 +49,12 @@ ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks&
     row->addStretch();
 
     // Placed by hand on resize, not by the strip's layout: its distance to
-    // the right edge is part of the window's layout rule.
+    // the right edge is part of the window's layout rule. The strip keeps
+    // room for it so that it never covers the commands.
     procedures_ = named(new QComboBox(strip_), "Combo1");
     procedures_->addItem(QStringLiteral("Procédures"));
     procedures_->setMinimumContentsLength(18);
+    row->addSpacing(procedures_->sizeHint().width() + twipsToPixels(kProcedureListMargin, screen.twipsPerPixelX));
     declarations_ = named(new QListWidget(this), "List1");
     declarations_->addItem(QStringLiteral("RIEN"));
     declarations_->hide();
@@ -90,7 +92,7 @@ ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks&
     grid->addWidget(named(new QPushButton(QStringLiteral("Annuler")), "Command5"), 2, 2);
     newProcedure_->hide();
 
-    resize(twipsToPixels(9000, 6000, screen));
+    resize(twipsToPixels(11000, 6000, screen));
     runLoadHooks(*this, hooks);
 }
 
