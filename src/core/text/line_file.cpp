@@ -64,8 +64,13 @@ Result<std::string> readFileBytes(const std::filesystem::path& path)
         return makeError(err::PathFileAccess);
     errno = 0;
     FilePtr file(std::fopen(path.c_str(), "rb"));
-    if (!file)
-        return fileSystemError(errno ? errno : ENOENT);
+    if (!file) {
+        int e = errno ? errno : ENOENT;
+        // A missing folder is "path not found", a missing file in an existing folder "file not found".
+        if (e == ENOENT && path.has_parent_path() && !std::filesystem::is_directory(path.parent_path(), ec))
+            return makeError(err::PathNotFound, std::strerror(e));
+        return fileSystemError(e);
+    }
     std::string data;
     char buffer[65536];
     for (;;) {
@@ -104,6 +109,8 @@ Status writeFileAtomically(const std::filesystem::path& path, std::string_view b
         tmp += "." + std::to_string(stamp % 1000000007) + "-" + std::to_string(counter++) + ".tmp";
         errno = 0;
         file.reset(std::fopen(tmp.c_str(), "wbx"));
+        if (!file && errno == ENOENT)   // the new file cannot be made: its folder is missing
+            return makeError(err::PathNotFound, std::strerror(ENOENT));
         if (!file && errno != EEXIST)
             return fileSystemError(errno ? errno : EACCES);
     }

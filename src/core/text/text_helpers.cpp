@@ -211,4 +211,15 @@ std::string leftChars(std::string_view text, std::size_t n)
     return std::string(text.substr(0, i));
 }
 
+std::string_view dropChars(std::string_view text, std::size_t n)
+{
+    std::size_t i = 0;
+    for (std::size_t count = 0; count < n && i < text.size(); ++count) {
+        char32_t cp;
+        std::size_t len = decodeUtf8(text, i, cp);
+        i += len ? len : 1;
+    }
+    return text.substr(i);
+}
+
 }  // namespace qor

@@ -63,4 +63,7 @@ bool endsWithNoCase(std::string_view text, std::string_view suffix);
 // The first n characters (code points) of a UTF-8 text.
 std::string leftChars(std::string_view text, std::size_t n);
 
+// text without its first n characters (code points); "" when it has no more.
+std::string_view dropChars(std::string_view text, std::size_t n);
+
 }  // namespace qor

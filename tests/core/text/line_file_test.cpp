@@ -47,6 +47,14 @@ TEST(LineFile, ReadingAMissingFileIsFileNotFound)
     EXPECT_EQ(r.error().number, 53);
 }
 
+TEST(LineFile, ReadingFromAMissingFolderIsPathNotFound)
+{
+    test::TempDir dir;
+    auto r = readLineFile(dir.file("absent/f.txt"));
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error().number, 76);
+}
+
 TEST(LineFile, ReadingAFolderFailsWithoutCrash)
 {
     test::TempDir dir;
@@ -78,7 +86,7 @@ TEST(LineFile, WritingIntoAMissingFolderFailsWithAPathError)
     test::TempDir dir;
     auto r = writeLineFile(dir.file("no/such/folder/f.txt"), {"x"});
     ASSERT_FALSE(r.ok());
-    EXPECT_EQ(r.error().number, 53);
+    EXPECT_EQ(r.error().number, 76);
     EXPECT_FALSE(r.error().description.empty());
 }
 

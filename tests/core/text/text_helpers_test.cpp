@@ -89,5 +89,13 @@ TEST(TextHelpers, LeftCharsCountsCharactersNotBytes)
     EXPECT_EQ(leftChars("", 3), "");
 }
 
+TEST(TextHelpers, DropCharsCountsCharactersNotBytes)
+{
+    EXPECT_EQ(dropChars("Fichier=1.1", 8), "1.1");
+    EXPECT_EQ(dropChars("éé=5", 3), "5");
+    EXPECT_EQ(dropChars("X", 2), "");
+    EXPECT_EQ(dropChars("", 2), "");
+}
+
 }  // namespace
 }  // namespace qor
