@@ -26,7 +26,7 @@ std::string RelativePathRule::apply(std::string_view path) const
     if (path.empty())
         return {};
     std::string name = fileNameOf(path);
-    if (!name.empty() && fileExists_(targetFolder_ + name))
+    if (fileExists_(targetFolder_ + name))
         return name;
     if (!hasSeparator(path))
         return previousFolder_ + name;
