@@ -30,4 +30,9 @@ MenuPopupPoint menuPopupPoint(const TitleBox& box)
     return {box.left, box.bottom()};
 }
 
+TitleColours highlightedTitleColours(const Appearance& appearance)
+{
+    return {appearance.textColor, appearance.windowBack};
+}
+
 }  // namespace qor

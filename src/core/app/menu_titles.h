@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <vector>
 
+#include "core/ports/dialogs.h"
+#include "core/ui/appearances_file.h"
+
 namespace qor {
 
 // Where one of the main window's title captions stands, in twips from the
@@ -41,5 +44,15 @@ struct MenuPopupPoint {
     friend bool operator==(const MenuPopupPoint&, const MenuPopupPoint&) = default;
 };
 MenuPopupPoint menuPopupPoint(const TitleBox& box);
+
+// The colours of a highlighted title: the appearance's colours swapped, its
+// background the text colour and its text the window background.
+struct TitleColours {
+    Colour background = 0;
+    Colour text = 0;
+
+    friend bool operator==(const TitleColours&, const TitleColours&) = default;
+};
+TitleColours highlightedTitleColours(const Appearance& appearance);
 
 }  // namespace qor
