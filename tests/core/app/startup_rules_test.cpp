@@ -92,3 +92,24 @@ TEST(MenuTitles, TitlesStandSideBySideFrom120Twips)
 
 }  // namespace
 }  // namespace qor
+
+#include "core/app/mouse_position.h"
+
+namespace qor {
+namespace {
+
+TEST(MousePosition, ReadOutsInTwipsAndPixels)
+{
+    EXPECT_EQ(restingMousePositionTexts(), (MousePositionTexts{"X=0000", "Y=0000", "X=0000", "Y=0000"}));
+    struct Case { float x, y; double tpp; MousePositionTexts texts; };
+    const Case cases[] = {
+        {1000, 450, 15, {"X=1000", "Y=450", "X=66.66666px", "Y=30px"}},
+        {0, 7.5f, 15, {"X=0", "Y=7.5", "X=0px", "Y=0.5px"}},
+        {-30, 120, 12, {"X=-30", "Y=120", "X=-2.5px", "Y=10px"}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(mousePositionTexts(c.x, c.y, c.tpp, c.tpp), c.texts) << c.x;
+}
+
+}  // namespace
+}  // namespace qor
