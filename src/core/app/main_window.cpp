@@ -40,9 +40,8 @@ void MainWindow::load(const StartFacts& facts)
 {
     view_.setApplicationTitle(kApplicationTitle);
 
-    const LanguageMenu languages = languageMenu(installedLanguages(state_.programFolder),
-                                                state_.interfaceLanguage);
-    view_.showLanguages(languages.captions, languages.checked);
+    languages_ = languageMenu(installedLanguages(state_.programFolder), state_.interfaceLanguage);
+    view_.showLanguages(languages_.captions, languages_.checked);
 
     if (Status s = options_.read(); !s)
         reportLoadFailure(s.error());

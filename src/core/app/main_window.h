@@ -12,6 +12,7 @@
 #include "core/app/user_settings.h"
 #include "core/ports/desktop.h"
 #include "core/ports/dialogs.h"
+#include "core/ui/languages.h"
 
 namespace qor {
 
@@ -62,6 +63,9 @@ public:
     // "A&ssistance"
     void showSupport();
 
+    // The "Langue/Language" submenu as the load step filled it.
+    const LanguageMenu& languages() const { return languages_; }
+
 private:
     void reportLoadFailure(const Error& error);
     void openManualIn(const std::string& folder);
@@ -75,6 +79,7 @@ private:
     RecentFiles& recentFiles_;
     Plugins& plugins_;
     std::vector<TitleBox> titles_;
+    LanguageMenu languages_;
 };
 
 // The support message: heading, author, contacts.

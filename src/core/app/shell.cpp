@@ -1,0 +1,209 @@
+#include "core/app/shell.h"
+
+#include <filesystem>
+
+#include "core/app/association.h"
+#include "core/app/command_line.h"
+#include "core/app/maintenance.h"
+#include "core/app/menu_tree.h"
+#include "core/app/options_file.h"
+#include "core/app/screen_check.h"
+#include "core/app/window_arrangement.h"
+#include "core/text/text_helpers.h"
+#include "core/ui/appearances_file.h"
+#include "core/ui/languages.h"
+
+namespace qor {
+namespace {
+
+bool isFile(const std::string& path)
+{
+    std::error_code ec;
+    return std::filesystem::is_regular_file(path, ec);
+}
+
+bool exists(const std::string& path)
+{
+    std::error_code ec;
+    return std::filesystem::exists(path, ec);
+}
+
+}  // namespace
+
+Shell::Shell(AppPorts ports, ShellView& view, Document& document)
+    : ports_(ports),
+      view_(view),
+      document_(document),
+      settings_(state_, ports.settings, ports.dialogs),
+      options_(state_, view, ports.dialogs),
+      recentFiles_(settings_, view),
+      plugins_(state_, view, ports.dialogs, ports.desktop),
+      mainWindow_(state_, view, ports.dialogs, ports.desktop, settings_, options_, recentFiles_, plugins_)
+{
+}
+
+StartOutcome Shell::start(const StartupInputs& inputs)
+{
+    state_.newline = "\r\n";
+    state_.programFolder = withTrailingSeparator(folderOf(inputs.executablePath));
+    state_.executableFile = fileNameOf(inputs.executablePath);
+
+    const CommandLineRequest request = readCommandLine(inputs.arguments, isFile);
+    if (request.maintenance) {
+        runMaintenance(state_, ports_.dialogs, ports_.settings);
+        return StartOutcome::Quit;
+    }
+    state_.startupProject = request.startupProject;
+    state_.starting = true;
+
+    view_.showSplash();
+    const ScreenMetrics screen = ports_.screen.metrics();
+    const auto menuSize = defaultMenuSizeFor(screen);
+    if (!menuSize) {
+        ports_.dialogs.message(screenTooSmallMessage());
+        view_.hideSplash();
+        return StartOutcome::Quit;
+    }
+    state_.defaultMenuSize = *menuSize;
+
+    state_.interfaceLanguage = settings_.get(settings::General, settings::Language);
+
+    for (WindowId w : kStartupLoadOrder) {
+        view_.loadWindow(w);
+        if (w == WindowId::Main)
+            mainWindow_.load(inputs.facts);
+    }
+
+    WindowSizes sizes;
+    sizes.toolbox = view_.windowSize(WindowId::Toolbox);
+    sizes.main = view_.windowSize(WindowId::Main);
+    sizes.properties = view_.windowSize(WindowId::PropertiesPanel);
+    sizes.mousePosition = view_.windowSize(WindowId::MousePosition);
+    view_.arrangeWindows(arrangeWindows(sizes, screen, state_.defaultMenuSize));
+
+    writeFirstRunFiles();
+
+    // The mouse-position window is shown even with its option off: the
+    // option's command hides it again.
+    for (WindowId w : kStartupShowOrder)
+        view_.showWindow(w);
+    view_.hideSplash();
+    return StartOutcome::Running;
+}
+
+void Shell::writeFirstRunFiles()
+{
+    if (!exists(state_.programFile(kOptionsFileName))) {
+        associateProjectFiles(state_, ports_.settings, ports_.fileTypes);
+        (void)options_.write();
+    }
+    if (!exists(state_.programFile(kAppearancesFileName))) {
+        if (Status s = writeDefaultAppearancesFile(state_.programFolder); !s)
+            ports_.dialogs.message(appearancesNotSavedMessage(s.error()));
+    }
+}
+
+void Shell::propertiesPanelActivated()
+{
+    if (startupProjectHandled_)
+        return;
+    startupProjectHandled_ = true;
+    if (!state_.startupProject.empty())
+        document_.openPath(state_.startupProject);
+}
+
+void Shell::run(CommandId command, int position)
+{
+    using C = CommandId;
+    if (OptionCommands::isOption(command)) {
+        options_.run(command);
+        return;
+    }
+    switch (command) {
+    case C::NewWizard:
+        if (document_.newThroughWizard())
+            view_.openCreationWizard();
+        break;
+    case C::NewBlank: document_.newBlank(); break;
+    case C::Open: document_.open(); break;
+    case C::Save: document_.save(); break;
+    case C::SaveAs: document_.saveAs(); break;
+    case C::FileProperties: document_.showFileInfo(); break;
+    case C::OpenRecent:
+        if (auto path = recentFiles_.pathAt(position))
+            document_.openRecent(*path);
+        break;
+    case C::Quit: quit(); break;
+    case C::EditSource: document_.editSource(); break;
+    case C::ReloadProject: document_.reload(); break;
+    case C::RunPlugin: plugins_.run(position); break;
+    case C::AssociateFiles:
+        associateProjectFiles(state_, ports_.settings, ports_.fileTypes);
+        ports_.dialogs.message(filesAssociatedMessage());
+        break;
+    case C::ChooseLanguage: chooseLanguage(position); break;
+    case C::Appearances: view_.openAppearancePanel(); break;
+    case C::Manual: mainWindow_.openManual(); break;
+    case C::Faq:
+    case C::Examples:
+    case C::Tips: mainWindow_.openWebPage(command); break;
+    case C::Support: mainWindow_.showSupport(); break;
+    case C::BugReport: mainWindow_.reportBug(); break;
+    case C::VersionCheck: mainWindow_.checkVersion(); break;
+    // "En ecran de veille" never does anything.
+    case C::CompileScreenSaver: break;
+    // Printing, test runs, compilation and the about window come with their own parts.
+    case C::PrintToBmp:
+    case C::PrintToClipboard:
+    case C::PrintToPaper:
+    case C::TestProject:
+    case C::CompileAutorun:
+    case C::CompileExecutable:
+    case C::CompileHtml:
+    case C::About:
+    default:
+        break;
+    }
+}
+
+void Shell::chooseLanguage(int item)
+{
+    const auto language = languageOfItem(mainWindow_.languages(), item);
+    if (!language)
+        return;
+    settings_.save(settings::General, settings::Language, *language);
+    ports_.dialogs.message(languageChangedMessage(state_.phrases));
+}
+
+bool Shell::quit()
+{
+    if (state_.wizardOpen) {
+        ports_.dialogs.message(closeWizardFirstMessage(state_.phrases));
+        return false;
+    }
+    if (document_.askToSave(true) == SaveAnswer::Cancelled)
+        return false;
+    document_.clearForQuit();
+    state_.newline.clear();
+    state_.programFolder.clear();
+    state_.startupProject.clear();
+    state_.interfaceLanguage.clear();
+    view_.hideAllWindows();
+    view_.unloadAllWindows();
+    return true;
+}
+
+Message appearancesNotSavedMessage(const Error& error)
+{
+    return Message{"Erreur pendant l'enregistrement des apparences ! (" + error.description + ")", "Erreur",
+                   MessageIcon::Critical};
+}
+
+Message closeWizardFirstMessage(const Phrases& phrases)
+{
+    const bool french = !phrases.languageActive();
+    return Message{phrases.text(16, "Veuillez fermer l'assistant création avant de quitter."),
+                   french ? "Quitter..." : commandCaption(CommandId::Quit), MessageIcon::Exclamation};
+}
+
+}  // namespace qor
