@@ -30,13 +30,15 @@ bool exists(const std::string& path)
 
 }  // namespace
 
-Shell::Shell(AppPorts ports, ShellView& view, Document& document)
-    : ports_(ports),
+Shell::Shell(AppState& state, AppPorts ports, ShellView& view, UserSettings& settings,
+             RecentFiles& recentFiles, Document& document)
+    : state_(state),
+      ports_(ports),
       view_(view),
+      settings_(settings),
+      recentFiles_(recentFiles),
       document_(document),
-      settings_(state_, ports.settings, ports.dialogs),
       options_(state_, view, ports.dialogs),
-      recentFiles_(settings_, view),
       plugins_(state_, view, ports.dialogs, ports.desktop),
       mainWindow_(state_, view, ports.dialogs, ports.desktop, settings_, options_, recentFiles_, plugins_)
 {

@@ -41,11 +41,12 @@ enum class StartOutcome {
 };
 
 // The application shell: start-up, the one dispatch point of the main
-// window's commands, and quitting. It owns the shared state and the shell's
-// flows; the project's commands go to the Document.
+// window's commands, and quitting. It owns the main window's flows, the
+// options and the plug-ins; the project's commands go to the Document.
 class Shell {
 public:
-    Shell(AppPorts ports, ShellView& view, Document& document);
+    Shell(AppState& state, AppPorts ports, ShellView& view, UserSettings& settings, RecentFiles& recentFiles,
+          Document& document);
 
     // The start-up routine, from the command line to the windows shown.
     StartOutcome start(const StartupInputs& inputs);
@@ -74,13 +75,13 @@ private:
     void chooseLanguage(int item);
     void writeFirstRunFiles();
 
+    AppState& state_;
     AppPorts ports_;
     ShellView& view_;
+    UserSettings& settings_;
+    RecentFiles& recentFiles_;
     Document& document_;
-    AppState state_;
-    UserSettings settings_;
     OptionCommands options_;
-    RecentFiles recentFiles_;
     Plugins plugins_;
     MainWindow mainWindow_;
     bool startupProjectHandled_ = false;

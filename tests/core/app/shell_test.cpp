@@ -57,11 +57,27 @@ struct ShellFixture : ::testing::Test {
     test::FakeFileTypeRegistry fileTypes;
     test::FakeShellView view;
     FakeDocument document;
-    std::unique_ptr<Shell> shell = makeShell();
+    // What a run of the editor holds; a new start gets fresh ones.
+    struct Run {
+        AppState state;
+        UserSettings userSettings;
+        RecentFiles recent;
+        Shell shell;
+        Run(ShellFixture& f)
+            : userSettings(state, f.settings, f.dialogs),
+              recent(userSettings, f.view),
+              shell(state, AppPorts{f.dialogs, f.settings, f.desktop, f.screen, f.fileTypes}, f.view,
+                    userSettings, recent, f.document)
+        {
+        }
+    };
+    std::unique_ptr<Run> run = std::make_unique<Run>(*this);
+    Shell* shell = &run->shell;
 
-    std::unique_ptr<Shell> makeShell()
+    void restart()
     {
-        return std::make_unique<Shell>(AppPorts{dialogs, settings, desktop, screen, fileTypes}, view, document);
+        run = std::make_unique<Run>(*this);
+        shell = &run->shell;
     }
 
     StartOutcome start(const std::string& arguments = "")
@@ -110,7 +126,10 @@ TEST_F(ShellFixture, ScreenWidthDecidesTheMenuSizeOr640Refuses)
         test::FakeShellView v;
         test::FakeDialogs d;
         test::FakeScreen s{c.widthPixels, 600};
-        Shell sh(AppPorts{d, settings, desktop, s, fileTypes}, v, document);
+        AppState st;
+        UserSettings us(st, settings, d);
+        RecentFiles rf(us, v);
+        Shell sh(st, AppPorts{d, settings, desktop, s, fileTypes}, v, us, rf, document);
         EXPECT_EQ(sh.start({dir.file("qor"), "", {}}), c.outcome) << c.widthPixels;
         if (c.outcome == StartOutcome::Quit) {
             EXPECT_EQ(d.messages, (std::vector<Message>{screenTooSmallMessage()}));
@@ -147,7 +166,7 @@ TEST_F(ShellFixture, StartupProjectOpensOnTheFirstActivationOfThePropertiesPanel
     // ".QOR" is not ".qor": nothing to open, and activations stay quiet.
     const std::string upper = dir.write("AUTRE.QOR", "");
     document.calls.clear();
-    shell = makeShell();
+    restart();
     ASSERT_EQ(start(upper), StartOutcome::Running);
     shell->propertiesPanelActivated();
     EXPECT_TRUE(document.calls.empty());
@@ -176,7 +195,7 @@ TEST_F(ShellFixture, LaterStartsReadTheOptionsAndShowTheMouseWindowAnyway)
 
     // Deleting the options file makes the next start a first run again.
     std::filesystem::remove(dir.path() / kOptionsFileName);
-    shell = makeShell();
+    restart();
     ASSERT_EQ(start(), StartOutcome::Running);
     EXPECT_EQ(fileTypes.registrations.size(), 1u);
     EXPECT_EQ(splitLines(dir.read(kOptionsFileName)).size(), 9u);
