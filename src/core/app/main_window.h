@@ -48,7 +48,9 @@ public:
     void pointerOverTitle(int index);
     // A press on title i: highlighted, and menu i popped up under it.
     void pressTitle(int index);
-    // Every title back to its normal colours.
+    // Every title back to its normal colours: on a click on the window, when
+    // it is deactivated or loses the focus, when the pointer moves over its
+    // body or the appearance frame, and once 300 ms after the load.
     void resetTitles();
 
     // "&Manuel": opens index.htm of the manual's folder, asking for the

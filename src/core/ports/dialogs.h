@@ -10,7 +10,8 @@ enum class MessageIcon { None, Critical, Question, Exclamation, Information };
 enum class MessageButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
-// A message box as the user sees it.
+// A message box as the user sees it. Lines of the text are broken by CR LF
+// (the editor's newline constant); the dialog shows each as a line break.
 struct Message {
     std::string text;
     std::string title;
