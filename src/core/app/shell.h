@@ -5,7 +5,7 @@
 #include "core/app/app_state.h"
 #include "core/app/commands.h"
 #include "core/app/document.h"
-#include "core/app/main_window.h"
+#include "core/app/main_window_flows.h"
 #include "core/app/option_commands.h"
 #include "core/app/plugins.h"
 #include "core/app/recent_files.h"
@@ -66,7 +66,7 @@ public:
     bool quit();
 
     AppState& state() { return state_; }
-    MainWindow& mainWindow() { return mainWindow_; }
+    MainWindowFlows& mainWindow() { return mainWindow_; }
     OptionCommands& options() { return options_; }
     RecentFiles& recentFiles() { return recentFiles_; }
     Plugins& plugins() { return plugins_; }
@@ -83,7 +83,7 @@ private:
     Document& document_;
     OptionCommands options_;
     Plugins plugins_;
-    MainWindow mainWindow_;
+    MainWindowFlows mainWindow_;
     bool startupProjectHandled_ = false;
 };
 

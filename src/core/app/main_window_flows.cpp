@@ -1,4 +1,4 @@
-#include "core/app/main_window.h"
+#include "core/app/main_window_flows.h"
 
 #include <filesystem>
 
@@ -31,12 +31,12 @@ std::string underline(std::string_view heading)
 
 }  // namespace
 
-void MainWindow::reportLoadFailure(const Error& error)
+void MainWindowFlows::reportLoadFailure(const Error& error)
 {
     dialogs_.message(Message{error.description, state_.phrases.text(7, "Erreur"), MessageIcon::Critical});
 }
 
-void MainWindow::load(const StartFacts& facts)
+void MainWindowFlows::load(const StartFacts& facts)
 {
     view_.setApplicationTitle(kApplicationTitle);
 
@@ -63,17 +63,17 @@ void MainWindow::load(const StartFacts& facts)
         reportLoadFailure(s.error());
 }
 
-std::string MainWindow::caption() const
+std::string MainWindowFlows::caption() const
 {
     return "QOR v" + product::versionText() + " - " + state_.phrases.text(4, "créateur de menus");
 }
 
-void MainWindow::pointerOverTitle(int index)
+void MainWindowFlows::pointerOverTitle(int index)
 {
     view_.highlightMenuTitle(index, highlightedTitleColours(state_.appearance));
 }
 
-void MainWindow::pressTitle(int index)
+void MainWindowFlows::pressTitle(int index)
 {
     view_.highlightMenuTitle(index, highlightedTitleColours(state_.appearance));
     if (index >= 0 && index < int(titles_.size())) {
@@ -82,19 +82,19 @@ void MainWindow::pressTitle(int index)
     }
 }
 
-void MainWindow::resetTitles()
+void MainWindowFlows::resetTitles()
 {
     view_.highlightMenuTitle(-1, {});
 }
 
-void MainWindow::openManualIn(const std::string& folder)
+void MainWindowFlows::openManualIn(const std::string& folder)
 {
     const long long times = (long long)readNumber(settings_.get(settings::Manual, settings::TimesOpened)) + 1;
     settings_.save(settings::Manual, settings::TimesOpened, std::to_string(times));
     desktop_.open(folder + kManualIndex, WindowShow::Normal);
 }
 
-void MainWindow::openManual()
+void MainWindowFlows::openManual()
 {
     const std::string stored = settings_.get(settings::Manual, settings::Folder);
     if (!stored.empty() && fileExists(stored + kManualIndex)) {
@@ -116,13 +116,13 @@ void MainWindow::openManual()
     openManualIn(folder);
 }
 
-void MainWindow::openWebPage(CommandId command)
+void MainWindowFlows::openWebPage(CommandId command)
 {
     if (auto address = webPageAddress(command))
         desktop_.open(*address, WindowShow::Normal);
 }
 
-void MainWindow::reportBug()
+void MainWindowFlows::reportBug()
 {
     const bool french = !state_.phrases.languageActive();
     const std::string description = dialogs_.inputBox(
@@ -133,12 +133,12 @@ void MainWindow::reportBug()
     desktop_.open(bugReportAddress(description), WindowShow::Normal);
 }
 
-void MainWindow::checkVersion()
+void MainWindowFlows::checkVersion()
 {
     desktop_.open(versionCheckAddress(state_.interfaceLanguage), WindowShow::Normal);
 }
 
-void MainWindow::showSupport()
+void MainWindowFlows::showSupport()
 {
     dialogs_.message(supportMessage(state_.newline));
 }

@@ -28,9 +28,9 @@ inline constexpr const char* kApplicationTitle = "QOR - création";
 
 // The main window's own rules: its load step, its caption, the menu titles,
 // and the commands of the "&?" menu.
-class MainWindow {
+class MainWindowFlows {
 public:
-    MainWindow(AppState& state, ShellView& view, Dialogs& dialogs, Desktop& desktop,
+    MainWindowFlows(AppState& state, ShellView& view, Dialogs& dialogs, Desktop& desktop,
                UserSettings& settings, OptionCommands& options, RecentFiles& recentFiles, Plugins& plugins)
         : state_(state), view_(view), dialogs_(dialogs), desktop_(desktop), settings_(settings),
           options_(options), recentFiles_(recentFiles), plugins_(plugins) {}

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "core/app/main_window.h"
+#include "core/app/main_window_flows.h"
 #include "core/app/web_pages.h"
 #include "core/product.h"
 #include "fake_desktop.h"
@@ -25,7 +25,7 @@ struct MainWindowFixture : ::testing::Test {
     OptionCommands options{state, view, dialogs};
     RecentFiles recent{settings, view};
     Plugins plugins{state, view, dialogs, desktop};
-    MainWindow window{state, view, dialogs, desktop, settings, options, recent, plugins};
+    MainWindowFlows window{state, view, dialogs, desktop, settings, options, recent, plugins};
 
     MainWindowFixture()
     {
