@@ -77,8 +77,8 @@ void MainWindowFlows::pressTitle(int index)
 {
     view_.highlightMenuTitle(index, highlightedTitleColours(state_.appearance));
     if (index >= 0 && index < int(titles_.size())) {
-        const TitleBox& box = titles_[std::size_t(index)];
-        view_.popUpMenu(index, box.left, box.top + box.height);
+        const MenuPopupPoint at = menuPopupPoint(titles_[std::size_t(index)]);
+        view_.popUpMenu(index, at.x, at.y);
     }
 }
 

@@ -80,13 +80,8 @@ TEST(WindowArrangement, WindowsAreArrangedAroundTheScreenCentre)
     EXPECT_EQ(a.mousePosition, (WindowPosition{12680, 445})); // 3180 + 9000 + 500
 }
 
-TEST(MenuTitles, TitlesStandSideBySideFrom120Twips)
+TEST(MenuTitleColours, AHighlightedTitleSwapsTheAppearanceColours)
 {
-    const auto boxes = layOutMenuTitles({600, 700, 100});
-    ASSERT_EQ(boxes.size(), 3u);
-    EXPECT_EQ(boxes[0], (TitleBox{120, 15, 840, 225}));
-    EXPECT_EQ(boxes[1], (TitleBox{960, 15, 940, 225}));
-    EXPECT_EQ(boxes[2], (TitleBox{1900, 15, 340, 225}));
     EXPECT_EQ(highlightedTitleColours(Appearance{1, 2, 3, ""}), (TitleColours{3, 1}));
 }
 
