@@ -1,5 +1,6 @@
 #include "core/app/maintenance.h"
 
+#include "core/app/error_text.h"
 #include "core/app/options_file.h"
 #include "core/app/plugins.h"
 #include "core/app/user_settings.h"
@@ -43,8 +44,8 @@ void runMaintenance(const AppState& state, Dialogs& dialogs, SettingsStore& sett
     // 6 and 7 registered the runtime components elsewhere; nothing here needs them.
 
     if (!done) {
-        dialogs.message(Message{"Erreur : " + done.error().description,
-                                "Erreur n°" + std::to_string(done.error().number), MessageIcon::Critical});
+        const Error error = inFrench(done.error());
+        dialogs.message(Message{"Erreur : " + error.description, "Erreur n°" + std::to_string(error.number), MessageIcon::Critical});
         return;
     }
     if (auto message = maintenanceMessage(code, state.newline))

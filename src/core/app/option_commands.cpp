@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/app/error_text.h"
 #include "core/app/options_file.h"
 #include "core/text/line_file.h"
 
@@ -121,7 +122,7 @@ Status OptionCommands::write()
 
 Message optionsNotSavedMessage(const Error& error)
 {
-    return Message{"Erreur pendant l'enregistrement des options ! (" + error.description + ")", "Erreur",
+    return Message{"Erreur pendant l'enregistrement des options ! (" + inFrench(error).description + ")", "Erreur",
                    MessageIcon::Critical};
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/app/association.h"
 #include "core/app/command_line.h"
+#include "core/app/error_text.h"
 #include "core/app/maintenance.h"
 #include "core/app/menu_tree.h"
 #include "core/app/options_file.h"
@@ -197,7 +198,7 @@ bool Shell::quit()
 
 Message appearancesNotSavedMessage(const Error& error)
 {
-    return Message{"Erreur pendant l'enregistrement des apparences ! (" + error.description + ")", "Erreur",
+    return Message{"Erreur pendant l'enregistrement des apparences ! (" + inFrench(error).description + ")", "Erreur",
                    MessageIcon::Critical};
 }
 

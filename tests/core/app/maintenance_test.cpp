@@ -76,9 +76,8 @@ TEST(Maintenance, ARepairThatFailsShowsItsError)
     dialogs.inputAnswers.push_back("2");
     runMaintenance(state, dialogs, settings);
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.lastMessage().title, "Erreur n°53");
-    EXPECT_EQ(dialogs.lastMessage().icon, MessageIcon::Critical);
-    EXPECT_EQ(dialogs.lastMessage().text.rfind("Erreur : ", 0), 0u);
+    EXPECT_EQ(dialogs.lastMessage(),
+              (Message{"Erreur : Chemin d'accès introuvable", "Erreur n°76", MessageIcon::Critical}));
 }
 
 }  // namespace

@@ -1,0 +1,20 @@
+#include "core/app/application.h"
+
+namespace qor {
+
+Application::Application(Platform p)
+    : settings_(state_, p.settings, p.dialogs),
+      recentFiles_(settings_, p.shellView),
+      // The QMB import is built after the hooks that route to it; nothing
+      // reaches it before the application is complete.
+      hooks_(p.projectViews, recentFiles_, qmb_),
+      services_{p.dialogs, state_.phrases, hooks_},
+      lifecycle_(project_, services_, p.desktop, p.documentView),
+      qmb_(p.qmbConverter, p.dialogs,
+           [this](const std::string& path) { loadProject(project_, path, true, services_); }),
+      shell_(state_, AppPorts{p.dialogs, p.settings, p.desktop, p.screen, p.fileTypes}, p.shellView, settings_,
+             recentFiles_, lifecycle_)
+{
+}
+
+}  // namespace qor
