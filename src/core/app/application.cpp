@@ -11,7 +11,7 @@ Application::Application(Platform p)
       services_{p.dialogs, state_.phrases, hooks_},
       lifecycle_(project_, services_, p.desktop, p.documentView),
       qmb_(p.qmbConverter, p.dialogs,
-           [this](const std::string& path) { loadProject(project_, path, true, services_); }),
+           [this](const std::string& path) { lifecycle_.openPath(path); }),
       shell_(state_, AppPorts{p.dialogs, p.settings, p.desktop, p.screen, p.fileTypes}, p.shellView, settings_,
              recentFiles_, lifecycle_)
 {

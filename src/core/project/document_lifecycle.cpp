@@ -107,7 +107,22 @@ void DocumentLifecycle::open()
         return;
     const auto path = services_.dialogs.openFile(openDialogRequest(services_.phrases));
     if (path && !path->empty() && isFile(*path))
-        loadProject(project_, *path, true, services_);
+        load(*path);
+}
+
+void DocumentLifecycle::load(const std::string& path)
+{
+    loadProject(project_, path, true, services_);
+    view_.projectReplaced(project_);
+}
+
+void DocumentLifecycle::saveTo(const std::string& path)
+{
+    const bool elsewhere = path != project_.filePath;
+    saveProject(project_, path, services_);
+    // Saved under a new name, the project was read back from it.
+    if (elsewhere)
+        view_.projectReplaced(project_);
 }
 
 void DocumentLifecycle::save()
@@ -115,14 +130,14 @@ void DocumentLifecycle::save()
     if (project_.filePath.empty())
         saveAs();
     else
-        saveProject(project_, project_.filePath, services_);
+        saveTo(project_.filePath);
 }
 
 void DocumentLifecycle::saveAs()
 {
     const auto path = services_.dialogs.saveFile(saveAsDialogRequest(services_.phrases));
     if (path && !path->empty())
-        saveProject(project_, *path, services_);
+        saveTo(*path);
 }
 
 bool DocumentLifecycle::neverSaved()
@@ -142,7 +157,7 @@ void DocumentLifecycle::reload()
     const std::string path = project_.filePath;
     if (askToSave(false) == SaveAnswer::Cancelled)
         return;
-    loadProject(project_, path, true, services_);
+    load(path);
 }
 
 void DocumentLifecycle::editSource()
@@ -165,7 +180,7 @@ void DocumentLifecycle::openRecent(const std::string& path)
     }
     if (askToSave(false) == SaveAnswer::Cancelled)
         return;
-    loadProject(project_, path, true, services_);
+    load(path);
 }
 
 void DocumentLifecycle::showFileInfo()
@@ -175,19 +190,20 @@ void DocumentLifecycle::showFileInfo()
 
 void DocumentLifecycle::openPath(const std::string& path)
 {
-    loadProject(project_, path, true, services_);
+    load(path);
 }
 
 void DocumentLifecycle::openDropped(const std::vector<std::string>& paths)
 {
     if (paths.empty() || askToSave(false) == SaveAnswer::Cancelled)
         return;
-    loadProject(project_, paths.back(), true, services_);
+    load(paths.back());
 }
 
 void DocumentLifecycle::reset()
 {
     resetProject(project_, services_);
+    view_.projectReplaced(project_);
 }
 
 void DocumentLifecycle::clearForQuit()

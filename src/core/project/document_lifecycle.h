@@ -20,6 +20,12 @@ public:
     // Opens the "Propriétés" window with the file's information and the
     // author fields; its "&Valider" hands the fields to applyAuthorFields.
     virtual void showFileInfo(const FileInfo& info, const AuthorFields& fields) = 0;
+
+    // The project was reset or replaced by a load: the worksheet takes the
+    // project's size and background colour, the properties panel its values.
+    // (The elements, the background picture, the selector and the startup
+    // choice have already followed through the project hooks.)
+    virtual void projectReplaced(const MenuProject& project) = 0;
 };
 
 // The open, save and new commands of the one project, each guarded by the
@@ -68,6 +74,8 @@ public:
 
 private:
     bool neverSaved();
+    void load(const std::string& path);
+    void saveTo(const std::string& path);
 
     MenuProject& project_;
     ProjectServices& services_;

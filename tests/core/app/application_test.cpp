@@ -19,6 +19,7 @@ class NoDocumentView : public DocumentView {
 public:
     int shown = 0;
     void showFileInfo(const FileInfo&, const AuthorFields&) override { ++shown; }
+    void projectReplaced(const MenuProject&) override {}
 };
 
 struct ApplicationFixture : ::testing::Test {

@@ -15,7 +15,9 @@ namespace {
 class FakeDocumentView : public DocumentView {
 public:
     std::vector<std::pair<FileInfo, AuthorFields>> shown;
+    std::vector<std::string> replaced;   // the filePath of each project shown anew
     void showFileInfo(const FileInfo& info, const AuthorFields& fields) override { shown.push_back({info, fields}); }
+    void projectReplaced(const MenuProject& p) override { replaced.push_back(p.filePath); }
 };
 
 struct LifecycleFixture : ::testing::Test {
@@ -80,6 +82,7 @@ TEST_F(LifecycleFixture, YesThenACancelledSaveAsStillDropsTheProject)
     EXPECT_EQ(env.dialogs.saveRequests.size(), 1u);
     EXPECT_EQ(env.project.authorName, "");
     EXPECT_EQ(env.hooks.events, (std::vector<std::string>{"resetViews"}));
+    EXPECT_EQ(view.replaced, (std::vector<std::string>{""}));
 
     // Cancel keeps it.
     env.project.authorName = "gardé";
@@ -111,6 +114,7 @@ TEST_F(LifecycleFixture, OpenShowsItsDialogAndLoadsExistingFilesOnly)
         EXPECT_EQ(env.project.authorName, c.author);
     }
     EXPECT_EQ(env.project.filePath, path);
+    EXPECT_EQ(view.replaced, (std::vector<std::string>{path}));
     EXPECT_EQ(env.hooks.eventsStartingWith("recent"), (std::vector<std::string>{"recent " + path}));
     EXPECT_EQ(env.dialogs.openRequests.back(),
               (FileDialogRequest{"&Ouvrir", "Fichier QOR v1.0/v1.1 (*.qor)|*.qor|Fichier QMB ou compatible (*.qmb)|*.qmb",
@@ -147,10 +151,11 @@ TEST_F(LifecycleFixture, SaveAsTakesTheNameAsTypedAndReplacesWithoutAsking)
     EXPECT_FALSE(std::filesystem::exists(bare + ".qor"));
     EXPECT_TRUE(env.dialogs.messages.empty());
 
-    // Saved once, Save writes in place without a dialog.
+    // Saved once, Save writes in place without a dialog and without reloading.
     env.project.authorName = "Encore moi";
     doc.save();
     EXPECT_EQ(env.dialogs.saveRequests.size(), 1u);
+    EXPECT_EQ(view.replaced, (std::vector<std::string>{bare}));
     EXPECT_NE(dir.read("sans extension").find("Encore moi"), std::string::npos);
 }
 
