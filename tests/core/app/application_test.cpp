@@ -75,17 +75,5 @@ TEST_F(ApplicationFixture, OpeningAQmbFileTellsThatItsSupportIsMissing)
     EXPECT_EQ(app.project().filePath, "");
 }
 
-TEST_F(ApplicationFixture, QuitAsksTheSystemModalQuestionThenUnloads)
-{
-    ASSERT_EQ(app.shell().start({dir.file("qor"), "", {}}), StartOutcome::Running);
-    app.project().authorName = "x";
-    dialogs.messageAnswers = {Answer::No};
-    EXPECT_TRUE(app.shell().quit());
-    EXPECT_TRUE(dialogs.lastMessage().systemModal);
-    EXPECT_EQ(dialogs.lastMessage().text, "Voulez-vous enregistrer le fichier en cours ?");
-    EXPECT_EQ(app.project().authorName, "");
-    EXPECT_TRUE(view.allUnloaded);
-}
-
 }  // namespace
 }  // namespace qor

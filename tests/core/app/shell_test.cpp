@@ -162,14 +162,6 @@ TEST_F(ShellFixture, StartupProjectOpensOnTheFirstActivationOfThePropertiesPanel
     shell->propertiesPanelActivated();
     shell->propertiesPanelActivated();
     EXPECT_EQ(document.calls, (std::vector<std::string>{"openPath " + project}));
-
-    // ".QOR" is not ".qor": nothing to open, and activations stay quiet.
-    const std::string upper = dir.write("AUTRE.QOR", "");
-    document.calls.clear();
-    restart();
-    ASSERT_EQ(start(upper), StartOutcome::Running);
-    shell->propertiesPanelActivated();
-    EXPECT_TRUE(document.calls.empty());
 }
 
 TEST_F(ShellFixture, LaterStartsReadTheOptionsAndShowTheMouseWindowAnyway)
@@ -307,13 +299,6 @@ TEST_F(ShellFixture, QuitIsRefusedWithTheWizardOpenOrOnCancel)
     shell->state().phrases.useLanguage(list);
     EXPECT_EQ(closeWizardFirstMessage(shell->state().phrases),
               (Message{"Please close the wizard first.", "&Quitter", MessageIcon::Exclamation}));
-}
-
-TEST(SaveAnswerWords, TheThreeWords)
-{
-    EXPECT_EQ(saveAnswerWord(SaveAnswer::Saved), "enr");
-    EXPECT_EQ(saveAnswerWord(SaveAnswer::NotSaved), "non");
-    EXPECT_EQ(saveAnswerWord(SaveAnswer::Cancelled), "annule");
 }
 
 }  // namespace
