@@ -1,6 +1,5 @@
 #include "core/app/recent_files.h"
 
-#include <algorithm>
 
 #include "core/app/menu_tree.h"
 #include "core/text/text_helpers.h"
@@ -17,32 +16,33 @@ std::string RecentFiles::caption(const std::string& path)
 
 void RecentFiles::rebuild()
 {
-    paths_.clear();
+    shown_.clear();
     std::vector<RecentFileEntry> entries;
     if (!settings_.get(settings::RecentFiles, key(1)).empty()) {
         for (int n = 1; n <= kMaxRecentFiles; ++n) {
             std::string p = settings_.get(settings::RecentFiles, key(n));
             if (p.empty())
                 continue;
-            entries.push_back({caption(p), p, true});
-            paths_.push_back(std::move(p));
+            entries.push_back({n, caption(p), p, true});
+            shown_.emplace_back(n, std::move(p));
         }
     }
     if (entries.empty())
-        entries.push_back({kNoRecentFileCaption, "", false});
+        entries.push_back({0, kNoRecentFileCaption, "", false});
     view_.showRecentFiles(entries);
 }
 
 void RecentFiles::add(const std::string& path)
 {
-    if (std::find(paths_.begin(), paths_.end(), path) != paths_.end())
-        return;
-    const int n = int(paths_.size());
+    for (const auto& entry : shown_)
+        if (entry.second == path)
+            return;
+    const int n = int(shown_.size());
     if (n < kMaxRecentFiles) {
         settings_.save(settings::RecentFiles, key(n + 1), path);
     } else {
         for (int k = 1; k < kMaxRecentFiles; ++k)
-            settings_.save(settings::RecentFiles, key(k), paths_[std::size_t(k)]);
+            settings_.save(settings::RecentFiles, key(k), shown_[std::size_t(k)].second);
         settings_.save(settings::RecentFiles, key(kMaxRecentFiles), path);
     }
     rebuild();
@@ -50,14 +50,18 @@ void RecentFiles::add(const std::string& path)
 
 std::optional<std::string> RecentFiles::pathAt(int position) const
 {
-    if (position < 1 || position > int(paths_.size()))
-        return std::nullopt;
-    return paths_[std::size_t(position - 1)];
+    for (const auto& entry : shown_)
+        if (entry.first == position)
+            return entry.second;
+    return std::nullopt;
 }
 
 std::vector<std::string> RecentFiles::paths() const
 {
-    return paths_;
+    std::vector<std::string> out;
+    for (const auto& entry : shown_)
+        out.push_back(entry.second);
+    return out;
 }
 
 }  // namespace qor

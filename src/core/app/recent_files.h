@@ -29,7 +29,7 @@ public:
     // where it is; a sixth path drops the oldest.
     void add(const std::string& path);
 
-    // The path of the n-th command of the list (1 = the first shown).
+    // The path of command n of the list, the one that shows "Fichier" + n.
     std::optional<std::string> pathAt(int position) const;
 
     // The paths listed, oldest first.
@@ -40,7 +40,8 @@ private:
 
     UserSettings& settings_;
     ShellView& view_;
-    std::vector<std::string> paths_;
+    // The commands shown: the store's position n (1 to 5) and its path.
+    std::vector<std::pair<int, std::string>> shown_;
 };
 
 }  // namespace qor

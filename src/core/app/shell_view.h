@@ -13,6 +13,7 @@ namespace qor {
 
 // One command of the recent files list as the "&Fichier" menu shows it.
 struct RecentFileEntry {
+    int position = 0;       // n of the store's "Fichier" + n; 0 for "Aucun fichier récent"
     std::string caption;
     std::string path;       // empty for the disabled "Aucun fichier récent"
     bool enabled = true;

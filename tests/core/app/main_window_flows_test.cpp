@@ -57,7 +57,7 @@ TEST_F(MainWindowFixture, LoadStepFillsTheWindowAndWritesTheBookkeeping)
     EXPECT_EQ(view.languages, (std::vector<std::string>{"Français", "English"}));
     EXPECT_EQ(view.checkedLanguage, 1);
     EXPECT_TRUE(state.options.precisePointer);
-    EXPECT_EQ(view.recentFiles, (std::vector<RecentFileEntry>{{"/p/a.qor", "/p/a.qor", true}}));
+    EXPECT_EQ(view.recentFiles, (std::vector<RecentFileEntry>{{1, "/p/a.qor", "/p/a.qor", true}}));
     ASSERT_EQ(view.titleBoxes.size(), 6u);
     EXPECT_EQ(view.titleBoxes[1].left, 120 + 600 + 240);
     EXPECT_EQ(view.plugins, (std::vector<PluginCommand>{{"Calc", "s1:calc"}}));

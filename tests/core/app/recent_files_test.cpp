@@ -42,7 +42,7 @@ TEST(RecentFilesCaption, ShortPathsInFullLongOnesCut)
 TEST_F(RecentFixture, EmptyListShowsOneDisabledEntry)
 {
     recent.rebuild();
-    EXPECT_EQ(view.recentFiles, (std::vector<RecentFileEntry>{{"Aucun fichier récent", "", false}}));
+    EXPECT_EQ(view.recentFiles, (std::vector<RecentFileEntry>{{0, "Aucun fichier récent", "", false}}));
     EXPECT_EQ(recent.pathAt(1), std::nullopt);
 }
 
@@ -54,7 +54,7 @@ TEST_F(RecentFixture, SixProjectsLeaveTheSecondToTheSixth)
     EXPECT_EQ(stored(), (std::vector<std::string>{"/p/projet2.qor", "/p/projet3.qor", "/p/projet4.qor",
                                                   "/p/projet5.qor", "/p/projet6.qor"}));
     ASSERT_EQ(view.recentFiles.size(), 5u);
-    EXPECT_EQ(view.recentFiles[0], (RecentFileEntry{"/p/projet2.../projet2.qor", "/p/projet2.qor", true}));
+    EXPECT_EQ(view.recentFiles[0], (RecentFileEntry{1, "/p/projet2.../projet2.qor", "/p/projet2.qor", true}));
     EXPECT_EQ(recent.pathAt(5), std::optional<std::string>("/p/projet6.qor"));
     EXPECT_EQ(recent.pathAt(6), std::nullopt);
 }
@@ -72,9 +72,13 @@ TEST_F(RecentFixture, AListedPathKeepsItsPlace)
 TEST_F(RecentFixture, ListReadFromTheStoreAtStart)
 {
     store.values[{"QOR", "FichiersRecents", "Fichier1"}] = "/x/un.qor";
-    store.values[{"QOR", "FichiersRecents", "Fichier2"}] = "/x/deux.qor";
+    store.values[{"QOR", "FichiersRecents", "Fichier3"}] = "/x/trois.qor";
     recent.rebuild();
-    EXPECT_EQ(recent.paths(), (std::vector<std::string>{"/x/un.qor", "/x/deux.qor"}));
+    EXPECT_EQ(recent.paths(), (std::vector<std::string>{"/x/un.qor", "/x/trois.qor"}));
+    // Each command stands for its own store entry, gaps included.
+    EXPECT_EQ(view.recentFiles[1].position, 3);
+    EXPECT_EQ(recent.pathAt(3), std::optional<std::string>("/x/trois.qor"));
+    EXPECT_EQ(recent.pathAt(2), std::nullopt);
     // Without "Fichier1" the others are not shown.
     store.values[{"QOR", "FichiersRecents", "Fichier1"}] = "";
     recent.rebuild();
