@@ -1,6 +1,5 @@
 #include "core/app/recent_files.h"
 
-
 #include "core/app/menu_tree.h"
 #include "core/text/text_helpers.h"
 #include "core/text/utf8.h"
