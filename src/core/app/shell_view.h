@@ -46,7 +46,8 @@ public:
     // its inner size, and the element selector shows "Feuille de travail", selected.
     virtual void arrangeWindows(const WindowArrangement& arrangement) = 0;
     virtual void showWindow(WindowId window) = 0;
-    // Quitting: every window hidden, then every window unloaded, the main window last.
+    // Quitting: every window hidden, then every window unloaded, the main
+    // window last; closing it ends the editor's event loop.
     virtual void hideAllWindows() = 0;
     virtual void unloadAllWindows() = 0;
 
