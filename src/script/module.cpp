@@ -1,0 +1,178 @@
+#include "script/module.h"
+
+#include <new>
+#include <stdexcept>
+
+#include "script/compiler.h"
+#include "script/parser.h"
+#include "script/runtime.h"
+#include "script/script_text.h"
+
+namespace qor::script {
+
+namespace {
+
+// Runs a compiled body in a fresh top-level frame.
+class TopFrame {
+public:
+    TopFrame(Runtime& rt, int locals) : rt_(rt), base_(rt.pushFrame(locals)) {}
+    ~TopFrame() { rt_.popFrame(base_); }
+    Frame frame() { return Frame{&rt_, base_, false}; }
+
+private:
+    Runtime& rt_;
+    Value* base_;
+};
+
+ScriptError internalError(int number)
+{
+    return makeScriptError(number);
+}
+
+template <class F>
+RunResult guarded(Runtime& rt, F&& f)
+{
+    RunResult result;
+    try {
+        RunScope scope(rt);
+        rt.line = 0;
+        result.value = f();
+    } catch (ScriptError& e) {
+        if (e.line == 0)
+            e.line = rt.line;
+        result.error = std::move(e);
+    } catch (const std::bad_alloc&) {
+        result.error = internalError(errc::OutOfMemory);
+        result.error->line = rt.line;
+    } catch (const std::length_error&) {
+        result.error = internalError(errc::OutOfMemory);
+        result.error->line = rt.line;
+    }
+    return result;
+}
+
+}  // namespace
+
+Module::Module(ScriptHost* host) : host_(host), rt_(std::make_unique<Runtime>(host))
+{
+    maxStackBytes_ = rt_->maxStackBytes;
+}
+
+Module::~Module() = default;
+
+void Module::addObject(std::string_view name, Ref<HostObject> object, bool exposeMembers)
+{
+    Global& g = rt_->globalSlot(std::string(name));
+    g.kind = Global::HostObj;
+    g.value = Value::object(object.get());
+    g.proc.reset();
+    if (exposeMembers)
+        rt_->exposed.push_back(object);
+}
+
+RunResult Module::finish(RunResult r)
+{
+    if (r.error)
+        lastError_ = r.error;
+    return r;
+}
+
+RunResult Module::addCode(std::string_view text)
+{
+    Chunk* chunk = nullptr;
+    try {
+        Parser parser(text);
+        Program program = parser.parseProgram();
+        Compiler compiler(*rt_);
+        auto compiled = compiler.compile(program);
+        // Compiled without error: now the text's names join the module.
+        for (const auto& proc : compiled->procedures) {
+            Global& g = rt_->globalSlot(proc->name);
+            g.kind = Global::Proc;
+            g.proc = proc;
+            g.value = Value();
+        }
+        for (auto& [g, v] : compiled->constants) {
+            g->kind = Global::Constant;
+            g->value = v;
+            g->proc.reset();
+        }
+        for (Global* g : compiled->variables)
+            if (g->kind == Global::Undefined)
+                g->kind = Global::Variable;
+        if (compiled->optionExplicit)
+            rt_->optionExplicit = true;
+        chunk = compiled.get();
+        chunks_.push_back(std::move(compiled));
+    } catch (ScriptError& e) {
+        return finish(RunResult{Value(), std::move(e)});
+    } catch (const std::bad_alloc&) {
+        return finish(RunResult{Value(), internalError(errc::OutOfMemory)});
+    }
+    return finish(guarded(*rt_, [&]() {
+        TopFrame top(*rt_, chunk->topLocals);
+        Frame f = top.frame();
+        chunk->body->exec(f);
+        return Value();
+    }));
+}
+
+RunResult Module::run(std::string_view procedure, std::vector<Value> args)
+{
+    Global* g = rt_->findGlobal(lowerAscii(procedure));
+    if (!g || g->kind != Global::Proc)
+        return finish(RunResult{Value(), makeScriptError(35, procedure)});
+    auto proc = g->proc;
+    return finish(guarded(*rt_, [&]() { return rt_->callProcedureWithValues(*proc, args); }));
+}
+
+RunResult Module::eval(std::string_view expression)
+{
+    ExprPtr e;
+    int locals = 0;
+    try {
+        Parser parser(expression);
+        SyntaxPtr syntax = parser.parseExpressionText();
+        Compiler compiler(*rt_);
+        e = compiler.compileExpression(*syntax, locals);
+    } catch (ScriptError& err) {
+        return finish(RunResult{Value(), std::move(err)});
+    }
+    return finish(guarded(*rt_, [&]() {
+        TopFrame top(*rt_, locals);
+        Frame f = top.frame();
+        rt_->line = 1;
+        Value v = e->eval(f);
+        return isMissing(v) ? Value() : v;
+    }));
+}
+
+bool Module::hasProcedure(std::string_view name) const
+{
+    Global* g = rt_->findGlobal(lowerAscii(name));
+    return g && g->kind == Global::Proc;
+}
+
+void Module::reset()
+{
+    chunks_.clear();
+    rt_ = std::make_unique<Runtime>(host_);
+    rt_->setStepBudget(stepBudget_);
+    rt_->maxStackBytes = maxStackBytes_;
+}
+
+void Module::setStepBudget(std::uint64_t steps)
+{
+    stepBudget_ = steps;
+    rt_->setStepBudget(steps);
+}
+
+void Module::requestStop() { rt_->requestStop(); }
+
+void Module::setMaxStackBytes(std::size_t bytes)
+{
+    maxStackBytes_ = bytes;
+    rt_->maxStackBytes = bytes;
+}
+
+}  // namespace qor::script

@@ -1,0 +1,446 @@
+#include "script/nodes.h"
+
+#include <cmath>
+
+#include "script/script_text.h"
+
+namespace qor::script {
+
+namespace {
+
+// Evaluates arguments into values; missing ones stay marked for builtins.
+class ArgValues {
+public:
+    ArgValues(const ExprList& args, Frame& f)
+    {
+        std::size_t n = args.size();
+        data_ = n <= kInline ? inline_ : (heap_.resize(n), heap_.data());
+        size_ = n;
+        for (std::size_t i = 0; i < n; ++i)
+            data_[i] = args[i]->eval(f);
+    }
+    std::span<Value> span() { return {data_, size_}; }
+    void dropMissing()
+    {
+        for (std::size_t i = 0; i < size_; ++i)
+            if (isMissing(data_[i]))
+                data_[i] = Value();
+    }
+
+private:
+    static constexpr std::size_t kInline = 6;
+    Value inline_[kInline];
+    std::vector<Value> heap_;
+    Value* data_;
+    std::size_t size_;
+};
+
+Value numericForLoop(const Value& v)
+{
+    Value n = toNumeric(v);
+    if (n.isNull())
+        raise(errc::InvalidUseOfNull);
+    return n;
+}
+
+}  // namespace
+
+Value& VarRef::storage(Frame& f) const
+{
+    switch (kind) {
+    case Local: return f.locals[slot];
+    case RefParam: return f.locals[slot].deref();
+    case Global:
+        break;
+    }
+    if (global->kind == Global::Undefined) {
+        if (f.rt->optionExplicit)
+            raise(errc::UndefinedVariable, global->name);
+        global->kind = Global::Variable;
+    }
+    if (global->kind != Global::Variable)
+        raise(errc::IllegalAssignment, global->name);
+    return global->value;
+}
+
+Value VarRef::get(Frame& f) const
+{
+    switch (kind) {
+    case Local: return f.locals[slot];
+    case RefParam: return f.locals[slot].deref();
+    case Global:
+        break;
+    }
+    if (global->kind == Global::Variable || global->kind == Global::Constant)
+        return global->value;
+    return f.rt->readGlobal(*global, f);
+}
+
+void VarRef::set(Frame& f, Value v) const
+{
+    if (kind == Global) {
+        f.rt->writeGlobal(*global, std::move(v), false);
+        return;
+    }
+    storage(f) = Runtime::letValue(std::move(v));
+}
+
+Value* GlobalGet::reference(Frame& f) const
+{
+    if (global->kind == Global::Variable)
+        return &global->value;
+    if (global->kind == Global::Undefined && f.rt->exposed.empty() && !f.rt->optionExplicit) {
+        global->kind = Global::Variable;
+        return &global->value;
+    }
+    return nullptr;
+}
+
+Value UnaryExpr::eval(Frame& f) const
+{
+    Value v = operand->eval(f);
+    switch (op) {
+    case UnOp::Neg: return negate(v);
+    case UnOp::Not: return logicalNot(v);
+    case UnOp::Plus: break;
+    }
+    if (v.isObject())
+        return primitive(v);
+    return v;
+}
+
+BinaryExpr::BinaryExpr(BinOp o, ExprPtr a, ExprPtr b) : op(o), left(std::move(a)), right(std::move(b))
+{
+    literals = (left->isLiteral() ? LeftLiteral : 0) | (right->isLiteral() ? RightLiteral : 0);
+}
+
+Value BinaryExpr::eval(Frame& f) const
+{
+    Value a = left->eval(f);
+    Value b = right->eval(f);
+    switch (op) {
+    case BinOp::Pow: return power(a, b);
+    case BinOp::Mul: return multiply(a, b);
+    case BinOp::Div: return divide(a, b);
+    case BinOp::IntDiv: return intDivide(a, b);
+    case BinOp::Mod: return modulo(a, b);
+    case BinOp::Add: return add(a, b);
+    case BinOp::Sub: return subtract(a, b);
+    case BinOp::Concat: return concat(a, b);
+    case BinOp::Eq: return compare(Compare::Eq, a, b, literals);
+    case BinOp::Ne: return compare(Compare::Ne, a, b, literals);
+    case BinOp::Lt: return compare(Compare::Lt, a, b, literals);
+    case BinOp::Le: return compare(Compare::Le, a, b, literals);
+    case BinOp::Gt: return compare(Compare::Gt, a, b, literals);
+    case BinOp::Ge: return compare(Compare::Ge, a, b, literals);
+    case BinOp::Is: return identical(a, b);
+    case BinOp::And: return logicalAnd(a, b);
+    case BinOp::Or: return logicalOr(a, b);
+    case BinOp::Xor: return logicalXor(a, b);
+    case BinOp::Eqv: return logicalEqv(a, b);
+    case BinOp::Imp: return logicalImp(a, b);
+    }
+    return Value();
+}
+
+Value BuiltinCall::eval(Frame& f) const
+{
+    ArgValues values(args, f);
+    for (auto& v : values.span())
+        if (v.isRef() && !script::isMissing(v))
+            v = Value(v.deref());
+    return fn(*f.rt, values.span());
+}
+
+Value IndexExpr::eval(Frame& f) const
+{
+    ArgValues values(args, f);
+    values.dropMissing();
+    if (Value* ref = target->reference(f))
+        return f.rt->index(*ref, values.span(), name);
+    Value t = target->eval(f);
+    return f.rt->index(t, values.span(), name);
+}
+
+Value MemberExpr::eval(Frame& f) const
+{
+    Value o = object->eval(f);
+    ArgValues values(args, f);
+    return f.rt->getMember(o, name, values.span(), asStatement, objectName);
+}
+
+Flow Block::guarded(const Stmt& s, Frame& f)
+{
+    try {
+        return s.exec(f);
+    } catch (const ScriptError& e) {
+        if (e.fatal)
+            throw;
+        f.rt->recordError(e);
+        return Flow::Normal;
+    }
+}
+
+Flow AssignVar::exec(Frame& f) const
+{
+    Value v = value->eval(f);
+    if (var.kind == VarRef::Global) {
+        f.rt->writeGlobal(*var.global, std::move(v), isSet);
+        return Flow::Normal;
+    }
+    var.storage(f) = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
+    return Flow::Normal;
+}
+
+Flow AssignIndex::exec(Frame& f) const
+{
+    ArgValues values(args, f);
+    values.dropMissing();
+    Value v = value->eval(f);
+    v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
+    if (Value* ref = target->reference(f)) {
+        f.rt->storeIndexed(*ref, values.span(), v, name);
+        return Flow::Normal;
+    }
+    Value t = target->eval(f);
+    if (!t.isObject())
+        raise(errc::TypeMismatch, name);
+    f.rt->storeIndexed(t, values.span(), v, name);
+    return Flow::Normal;
+}
+
+Flow AssignMember::exec(Frame& f) const
+{
+    Value o = object->eval(f);
+    ArgValues values(args, f);
+    values.dropMissing();
+    Value v = value->eval(f);
+    if (isSet)
+        v = Runtime::setValue(std::move(v));
+    else if (v.isRef())
+        v = Runtime::letValue(std::move(v));
+    // An object assigned without Set goes to the host as it is: a property
+    // such as Picture = LoadPicture(...) takes the picture itself.
+    f.rt->setMember(o, name, values.span(), v, objectName);
+    return Flow::Normal;
+}
+
+Flow ForStmt::exec(Frame& f) const
+{
+    Value from = numericForLoop(start->eval(f));
+    f.locals[limitSlot] = numericForLoop(limit->eval(f));
+    f.locals[stepSlot] = step ? numericForLoop(step->eval(f)) : Value::integer(1);
+    const Value& to = f.locals[limitSlot];
+    const Value& by = f.locals[stepSlot];
+    bool up = by.isInteger() ? by.asInt() >= 0 : by.asDouble() >= 0;
+    if (var.kind == VarRef::Global)
+        f.rt->writeGlobal(*var.global, std::move(from), false);
+    else
+        var.storage(f) = std::move(from);
+    int forLine = line;
+    for (;;) {
+        // The counter is the variable itself: the body may change it.
+        Value& counter = var.kind == VarRef::Global ? var.storage(f) : var.storage(f);
+        int c;
+        if (counter.isInteger() && to.isInteger())
+            c = counter.asInt() < to.asInt() ? -1 : counter.asInt() > to.asInt();
+        else
+            c = compareValues(numericForLoop(counter), to, NoLiteral, false);
+        if (up ? c > 0 : c < 0)
+            break;
+        Flow fl = body->exec(f);
+        if (fl == Flow::ExitFor)
+            break;
+        if (fl != Flow::Normal)
+            return fl;
+        f.rt->tick();
+        f.rt->line = forLine;
+        Value& cur = var.storage(f);
+        if (cur.isInteger() && by.isInteger()) {
+            std::int64_t n = std::int64_t(cur.asInt()) + by.asInt();
+            if (cur.type() == Type::Integer && by.type() == Type::Integer && n >= -32768 && n <= 32767)
+                cur = Value::integer(std::int32_t(n));
+            else if (n >= INT32_MIN && n <= INT32_MAX)
+                cur = Value::longValue(std::int32_t(n));
+            else
+                cur = Value::dbl(double(n));
+        } else {
+            cur = add(numericForLoop(cur), by);
+        }
+    }
+    return Flow::Normal;
+}
+
+Flow ForEachStmt::exec(Frame& f) const
+{
+    Value c = collection->eval(f);
+    Value items;
+    if (c.isArray()) {
+        items = c;
+    } else if (c.isObject()) {
+        if (!c.asObject())
+            raise(errc::ObjectNotSet);
+        HostResult r = static_cast<HostObject*>(c.asObject())->elements();
+        if (r.failed()) {
+            ScriptError e = *r.error;
+            if (e.number == errc::NoSuchMember)
+                e = makeScriptError(451);
+            throw e;
+        }
+        items = std::move(r.value);
+        if (!items.isArray())
+            raise(451);
+    } else {
+        raise(errc::TypeMismatch);
+    }
+    const ArrayRep* a = items.asArray();
+    int forLine = line;
+    for (const Value& item : a->items) {
+        if (var.kind == VarRef::Global)
+            f.rt->writeGlobal(*var.global, item, item.isObject());
+        else
+            var.storage(f) = item;
+        Flow fl = body->exec(f);
+        if (fl == Flow::ExitFor)
+            break;
+        if (fl != Flow::Normal)
+            return fl;
+        f.rt->tick();
+        f.rt->line = forLine;
+    }
+    return Flow::Normal;
+}
+
+Flow DoStmt::exec(Frame& f) const
+{
+    auto test = [&]() {
+        f.rt->line = conditionLine;
+        Value c = condition->eval(f);
+        bool t = c.type() == Type::Boolean ? c.asBool() : isTrue(c);
+        return (kind == DoKind::PreWhile || kind == DoKind::PostWhile) ? t : !t;
+    };
+    for (;;) {
+        if ((kind == DoKind::PreWhile || kind == DoKind::PreUntil) && !test())
+            break;
+        Flow fl = body->exec(f);
+        if (fl == Flow::ExitDo && !whileWend)
+            break;
+        if (fl != Flow::Normal)
+            return fl;
+        f.rt->tick();
+        if ((kind == DoKind::PostWhile || kind == DoKind::PostUntil) && !test())
+            break;
+    }
+    return Flow::Normal;
+}
+
+Flow SelectStmt::exec(Frame& f) const
+{
+    Value s = subject->eval(f);
+    for (const Case& c : cases) {
+        bool hit = c.items.empty();
+        for (const Item& it : c.items) {
+            f.rt->line = c.line;
+            Value a = it.a->eval(f);
+            int cmp;
+            switch (it.kind) {
+            case 0:
+                hit = compareValues(s, a, it.literal ? RightLiteral : NoLiteral, false) == 0;
+                break;
+            case 1: {
+                Value b = it.b->eval(f);
+                cmp = compareValues(s, a, NoLiteral, false);
+                int cmp2 = compareValues(s, b, NoLiteral, false);
+                hit = cmp != 2 && cmp2 != 2 && cmp >= 0 && cmp2 <= 0;
+                break;
+            }
+            default: {
+                Value r = compare(it.op, s, a, it.literal ? RightLiteral : NoLiteral);
+                hit = r.type() == Type::Boolean && r.asBool();
+                break;
+            }
+            }
+            if (hit)
+                break;
+        }
+        if (hit)
+            return c.body->exec(f);
+    }
+    return Flow::Normal;
+}
+
+Flow ExitStmt::exec(Frame& f) const
+{
+    if (flow == Flow::ExitProc)
+        f.rt->err().clear();
+    return flow;
+}
+
+Flow OnErrorStmt::exec(Frame& f) const
+{
+    f.resumeNext = resumeNext;
+    f.rt->err().clear();
+    return Flow::Normal;
+}
+
+Flow DimArrayStmt::exec(Frame& f) const
+{
+    Value& v = var.storage(f);
+    if (v.isArray())
+        return Flow::Normal;
+    v = Value::array(ArrayRep::make(upper, !upper.empty()));
+    return Flow::Normal;
+}
+
+Flow ReDimStmt::exec(Frame& f) const
+{
+    std::vector<std::int32_t> upper;
+    for (const auto& b : bounds)
+        upper.push_back(toLong(b->eval(f)));
+    Value& v = var.storage(f);
+    if (v.isArray() && v.asArray()->fixedSize)
+        raise(errc::FixedArray, name);
+    if (preserve && v.isArray() && !v.asArray()->upper.empty()) {
+        const ArrayRep* old = v.asArray();
+        if (old->upper.size() != upper.size())
+            raise(errc::SubscriptOutOfRange, name);
+        for (std::size_t d = 0; d + 1 < upper.size(); ++d)
+            if (old->upper[d] != upper[d])
+                raise(errc::SubscriptOutOfRange, name);
+        ArrayRep* a = ArrayRep::make(upper, false);
+        // Only the last dimension changes: copy row by row.
+        std::size_t oldLast = std::size_t(old->upper.back() + 1), newLast = std::size_t(upper.back() + 1);
+        std::size_t rows = newLast ? a->items.size() / newLast : 0;
+        std::size_t keep = std::min(oldLast, newLast);
+        for (std::size_t r = 0; r < rows; ++r)
+            for (std::size_t k = 0; k < keep; ++k)
+                a->items[r * newLast + k] = old->items[r * oldLast + k];
+        v = Value::array(a);
+        return Flow::Normal;
+    }
+    v = Value::array(ArrayRep::make(std::move(upper), false));
+    return Flow::Normal;
+}
+
+Flow EraseStmt::exec(Frame& f) const
+{
+    Value& v = var.storage(f);
+    if (!v.isArray())
+        raise(errc::TypeMismatch, name);
+    if (v.asArray()->fixedSize) {
+        v = Value::array(ArrayRep::make(v.asArray()->upper, true));
+    } else {
+        v = Value::array(ArrayRep::make({}, false));
+    }
+    return Flow::Normal;
+}
+
+Flow WithStmt::exec(Frame& f) const
+{
+    f.locals[slot] = object->eval(f);
+    Flow fl = body->exec(f);
+    f.locals[slot] = Value();
+    return fl;
+}
+
+}  // namespace qor::script

@@ -1,0 +1,403 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "script/operations.h"
+#include "script/runtime.h"
+#include "script/syntax.h"
+
+namespace qor::script {
+
+// The compiled tree the engine runs: every node knows its slot or its
+// global, so running a script never looks a name up.
+
+// Where a variable lives, for statements that both read and write it.
+struct VarRef {
+    enum Kind : std::uint8_t { Local, RefParam, Global } kind = Local;
+    int slot = 0;
+    struct Global* global = nullptr;
+
+    Value& storage(Frame& f) const;  // creates an undefined global as a variable
+    Value get(Frame& f) const;
+    void set(Frame& f, Value v) const;
+};
+
+struct Literal final : Expr {
+    Value value;
+    explicit Literal(Value v) : value(std::move(v)) {}
+    Value eval(Frame&) const override { return value; }
+    bool isLiteral() const override { return true; }
+};
+
+struct MissingArg final : Expr {
+    Value eval(Frame&) const override { return missingArgument(); }
+    bool isMissing() const override { return true; }
+};
+
+struct LocalGet final : Expr {
+    int slot;
+    explicit LocalGet(int s) : slot(s) {}
+    Value eval(Frame& f) const override { return f.locals[slot]; }
+    Value* reference(Frame& f) const override { return &f.locals[slot]; }
+};
+
+struct RefParamGet final : Expr {
+    int slot;
+    explicit RefParamGet(int s) : slot(s) {}
+    Value eval(Frame& f) const override { return f.locals[slot].deref(); }
+    Value* reference(Frame& f) const override { return &f.locals[slot].deref(); }
+};
+
+struct GlobalGet final : Expr {
+    struct Global* global;
+    explicit GlobalGet(struct Global* g) : global(g) {}
+    Value eval(Frame& f) const override
+    {
+        if (global->kind != Global::Undefined && global->kind != Global::Proc)
+            return global->value;
+        return f.rt->readGlobal(*global, f);
+    }
+    Value* reference(Frame& f) const override;
+};
+
+struct WithGet final : Expr {
+    int slot;
+    explicit WithGet(int s) : slot(s) {}
+    Value eval(Frame& f) const override { return f.locals[slot]; }
+};
+
+struct ParenExpr final : Expr {
+    ExprPtr inner;
+    explicit ParenExpr(ExprPtr e) : inner(std::move(e)) {}
+    Value eval(Frame& f) const override { return inner->eval(f); }
+};
+
+struct RaiseExpr final : Expr {
+    int number;
+    std::string name;
+    RaiseExpr(int n, std::string nm) : number(n), name(std::move(nm)) {}
+    Value eval(Frame&) const override { raise(number, name); }
+};
+
+struct UnaryExpr final : Expr {
+    UnOp op;
+    ExprPtr operand;
+    UnaryExpr(UnOp o, ExprPtr e) : op(o), operand(std::move(e)) {}
+    Value eval(Frame& f) const override;
+};
+
+struct BinaryExpr final : Expr {
+    BinOp op;
+    std::uint8_t literals = 0;
+    ExprPtr left, right;
+    BinaryExpr(BinOp o, ExprPtr a, ExprPtr b);
+    Value eval(Frame& f) const override;
+};
+
+// Arithmetic and comparison with the whole-number fast path inline: the
+// loops menus run are mostly counters.
+struct AddExpr final : Expr {
+    ExprPtr left, right;
+    AddExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    Value eval(Frame& f) const override
+    {
+        Value a = left->eval(f);
+        Value b = right->eval(f);
+        if (a.isInteger() && b.isInteger()) {
+            std::int64_t n = std::int64_t(a.asInt()) + b.asInt();
+            if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
+                if (n >= INT32_MIN && n <= INT32_MAX)
+                    return Value::longValue(std::int32_t(n));
+            } else {
+                return Value::integer(std::int32_t(n));
+            }
+        } else if (a.type() == Type::Double && b.type() == Type::Double) {
+            double d = a.asDouble() + b.asDouble();
+            if (d - d == 0)
+                return Value::dbl(d);
+        }
+        return add(a, b);
+    }
+};
+
+struct SubExpr final : Expr {
+    ExprPtr left, right;
+    SubExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    Value eval(Frame& f) const override
+    {
+        Value a = left->eval(f);
+        Value b = right->eval(f);
+        if (a.isInteger() && b.isInteger()) {
+            std::int64_t n = std::int64_t(a.asInt()) - b.asInt();
+            if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
+                if (n >= INT32_MIN && n <= INT32_MAX)
+                    return Value::longValue(std::int32_t(n));
+            } else {
+                return Value::integer(std::int32_t(n));
+            }
+        }
+        return subtract(a, b);
+    }
+};
+
+struct CompareExpr final : Expr {
+    Compare op;
+    std::uint8_t literals;
+    ExprPtr left, right;
+    CompareExpr(Compare o, std::uint8_t lit, ExprPtr a, ExprPtr b)
+        : op(o), literals(lit), left(std::move(a)), right(std::move(b)) {}
+    Value eval(Frame& f) const override
+    {
+        Value a = left->eval(f);
+        Value b = right->eval(f);
+        if (a.isInteger() && b.isInteger()) {
+            std::int32_t x = a.asInt(), y = b.asInt();
+            bool r = false;
+            switch (op) {
+            case Compare::Eq: r = x == y; break;
+            case Compare::Ne: r = x != y; break;
+            case Compare::Lt: r = x < y; break;
+            case Compare::Le: r = x <= y; break;
+            case Compare::Gt: r = x > y; break;
+            case Compare::Ge: r = x >= y; break;
+            }
+            return Value::boolean(r);
+        }
+        return compare(op, a, b, literals);
+    }
+};
+
+struct ConcatExpr final : Expr {
+    ExprPtr left, right;
+    ConcatExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    Value eval(Frame& f) const override
+    {
+        Value a = left->eval(f);
+        Value b = right->eval(f);
+        return concat(a, b);
+    }
+};
+
+using BuiltinFn = Value (*)(Runtime&, std::span<Value>);
+
+struct BuiltinCall final : Expr {
+    BuiltinFn fn;
+    ExprList args;
+    BuiltinCall(BuiltinFn f, ExprList a) : fn(f), args(std::move(a)) {}
+    Value eval(Frame& f) const override;
+};
+
+struct GlobalCall final : Expr {
+    struct Global* global;
+    ExprList args;
+    bool asStatement;
+    GlobalCall(struct Global* g, ExprList a, bool stmt) : global(g), args(std::move(a)), asStatement(stmt) {}
+    Value eval(Frame& f) const override
+    {
+        Global& g = *global;
+        if (g.kind == Global::Proc)
+            return f.rt->callProcedure(*g.proc, args, f);
+        return f.rt->callGlobal(g, args, f, asStatement);
+    }
+};
+
+struct IndexExpr final : Expr {
+    ExprPtr target;
+    ExprList args;
+    std::string name;
+    IndexExpr(ExprPtr t, ExprList a, std::string n) : target(std::move(t)), args(std::move(a)), name(std::move(n)) {}
+    Value eval(Frame& f) const override;
+};
+
+struct MemberExpr final : Expr {
+    ExprPtr object;
+    std::string name;
+    ExprList args;
+    bool asStatement;
+    std::string objectName;
+    MemberExpr(ExprPtr o, std::string n, ExprList a, bool stmt, std::string on)
+        : object(std::move(o)), name(std::move(n)), args(std::move(a)), asStatement(stmt), objectName(std::move(on)) {}
+    Value eval(Frame& f) const override;
+};
+
+// Statements
+
+struct Block final : Stmt {
+    std::vector<StmtPtr> body;
+    Flow exec(Frame& f) const override
+    {
+        for (const auto& s : body) {
+            f.rt->line = s->line;
+            if (!f.resumeNext) {
+                Flow fl = s->exec(f);
+                if (fl != Flow::Normal)
+                    return fl;
+            } else {
+                Flow fl = guarded(*s, f);
+                if (fl != Flow::Normal)
+                    return fl;
+            }
+        }
+        return Flow::Normal;
+    }
+    static Flow guarded(const Stmt& s, Frame& f);
+};
+
+struct ExprStmt final : Stmt {
+    ExprPtr expr;
+    explicit ExprStmt(ExprPtr e) : expr(std::move(e)) {}
+    Flow exec(Frame& f) const override
+    {
+        expr->eval(f);
+        return Flow::Normal;
+    }
+};
+
+struct AssignLocal final : Stmt {
+    int slot;
+    ExprPtr value;
+    bool isSet;
+    AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set) {}
+    Flow exec(Frame& f) const override
+    {
+        Value v = value->eval(f);
+        if (v.type() >= Type::Object)
+            v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
+        else if (isSet)
+            raise(errc::ObjectRequired);
+        f.locals[slot] = std::move(v);
+        return Flow::Normal;
+    }
+};
+
+struct AssignVar final : Stmt {
+    VarRef var;
+    ExprPtr value;
+    bool isSet;
+    AssignVar(VarRef r, ExprPtr v, bool set) : var(r), value(std::move(v)), isSet(set) {}
+    Flow exec(Frame& f) const override;
+};
+
+struct AssignIndex final : Stmt {
+    ExprPtr target;
+    ExprList args;
+    ExprPtr value;
+    bool isSet;
+    std::string name;
+    Flow exec(Frame& f) const override;
+};
+
+struct AssignMember final : Stmt {
+    ExprPtr object;
+    std::string name;
+    ExprList args;
+    ExprPtr value;
+    bool isSet;
+    std::string objectName;
+    Flow exec(Frame& f) const override;
+};
+
+struct RaiseStmt final : Stmt {
+    int number;
+    std::string name;
+    Flow exec(Frame&) const override { raise(number, name); }
+};
+
+struct IfStmt final : Stmt {
+    std::vector<ExprPtr> conditions;
+    std::vector<StmtPtr> blocks;  // one per condition, plus the Else block when there is one
+    Flow exec(Frame& f) const override
+    {
+        for (std::size_t i = 0; i < conditions.size(); ++i) {
+            Value c = conditions[i]->eval(f);
+            if (c.type() == Type::Boolean ? c.asBool() : isTrue(c))
+                return blocks[i]->exec(f);
+        }
+        if (blocks.size() > conditions.size())
+            return blocks.back()->exec(f);
+        return Flow::Normal;
+    }
+};
+
+struct ForStmt final : Stmt {
+    VarRef var;
+    ExprPtr start, limit, step;
+    StmtPtr body;
+    int limitSlot, stepSlot;
+    Flow exec(Frame& f) const override;
+};
+
+struct ForEachStmt final : Stmt {
+    VarRef var;
+    ExprPtr collection;
+    StmtPtr body;
+    Flow exec(Frame& f) const override;
+};
+
+struct DoStmt final : Stmt {
+    DoKind kind;
+    bool whileWend;
+    int conditionLine;
+    ExprPtr condition;
+    StmtPtr body;
+    Flow exec(Frame& f) const override;
+};
+
+struct SelectStmt final : Stmt {
+    struct Item {
+        int kind;  // 0 value, 1 range, 2 Is
+        Compare op;
+        std::uint8_t literal;
+        ExprPtr a, b;
+    };
+    struct Case {
+        std::vector<Item> items;  // empty: Case Else
+        StmtPtr body;
+        int line;
+    };
+    ExprPtr subject;
+    std::vector<Case> cases;
+    Flow exec(Frame& f) const override;
+};
+
+struct ExitStmt final : Stmt {
+    Flow flow;
+    explicit ExitStmt(Flow fl) : flow(fl) {}
+    Flow exec(Frame& f) const override;
+};
+
+struct OnErrorStmt final : Stmt {
+    bool resumeNext;
+    explicit OnErrorStmt(bool r) : resumeNext(r) {}
+    Flow exec(Frame& f) const override;
+};
+
+struct DimArrayStmt final : Stmt {
+    VarRef var;
+    std::vector<std::int32_t> upper;  // empty: Dim a()
+    Flow exec(Frame& f) const override;
+};
+
+struct ReDimStmt final : Stmt {
+    VarRef var;
+    ExprList bounds;
+    bool preserve;
+    std::string name;
+    Flow exec(Frame& f) const override;
+};
+
+struct EraseStmt final : Stmt {
+    VarRef var;
+    std::string name;
+    Flow exec(Frame& f) const override;
+};
+
+struct WithStmt final : Stmt {
+    int slot;
+    ExprPtr object;
+    StmtPtr body;
+    Flow exec(Frame& f) const override;
+};
+
+}  // namespace qor::script

@@ -1,0 +1,200 @@
+#include "script/value.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+#include "script/script_error.h"
+#include "script/script_text.h"
+
+namespace qor::script {
+
+namespace {
+thread_local MemoryLimits tLimits;
+thread_local std::size_t tLiveStringBytes = 0;
+}  // namespace
+
+MemoryLimits& memoryLimits() { return tLimits; }
+std::size_t liveStringBytes() { return tLiveStringBytes; }
+
+Value Value::string(std::string_view text)
+{
+    if (text.empty()) {
+        Value v;
+        v.type_ = Type::String;
+        v.s_ = nullptr;
+        return v;
+    }
+    return string(StringRep::make(text));
+}
+
+Value Value::string(StringRep* rep)
+{
+    Value v;
+    v.type_ = Type::String;
+    v.s_ = rep;
+    return v;
+}
+
+Value Value::object(Object* o)
+{
+    Value v;
+    v.type_ = Type::Object;
+    v.o_ = o;
+    if (o)
+        o->addRef();
+    return v;
+}
+
+Value Value::array(ArrayRep* a)
+{
+    Value v;
+    v.type_ = Type::Array;
+    v.a_ = a;
+    return v;
+}
+
+Value Value::fromInt64(std::int64_t n)
+{
+    if (n >= -32768 && n <= 32767)
+        return integer(std::int32_t(n));
+    if (n >= INT32_MIN && n <= INT32_MAX)
+        return longValue(std::int32_t(n));
+    return dbl(double(n));
+}
+
+std::string_view Value::asStringView() const
+{
+    return s_ ? s_->view() : std::string_view();
+}
+
+void Value::retain() const
+{
+    switch (type_) {
+    case Type::String:
+        if (s_)
+            ++s_->refs;
+        break;
+    case Type::Array:
+        ++a_->refs;
+        break;
+    case Type::Object:
+        if (o_)
+            o_->addRef();
+        break;
+    default:
+        break;
+    }
+}
+
+void Value::release()
+{
+    switch (type_) {
+    case Type::String:
+        if (s_ && --s_->refs == 0)
+            StringRep::destroy(s_);
+        break;
+    case Type::Array:
+        if (--a_->refs == 0)
+            ArrayRep::destroy(a_);
+        break;
+    case Type::Object:
+        if (o_)
+            o_->release();
+        break;
+    default:
+        break;
+    }
+    type_ = Type::Empty;
+}
+
+StringRep* StringRep::allocate(std::size_t size)
+{
+    if (size > tLimits.maxStringBytes || size > 0x7fffffffu)
+        raise(errc::OutOfStringSpace);
+    if (tLiveStringBytes + size > tLimits.maxLiveStringBytes)
+        raise(errc::OutOfMemory);
+    void* p = std::malloc(offsetof(StringRep, data) + size + 1);
+    if (!p)
+        raise(errc::OutOfMemory);
+    auto* rep = static_cast<StringRep*>(p);
+    rep->refs = 1;
+    rep->chars = -1;
+    rep->size = std::uint32_t(size);
+    rep->data[size] = '\0';
+    tLiveStringBytes += size;
+    return rep;
+}
+
+StringRep* StringRep::make(std::string_view text)
+{
+    StringRep* rep = allocate(text.size());
+    if (!text.empty())
+        std::memcpy(rep->data, text.data(), text.size());
+    return rep;
+}
+
+void StringRep::destroy(StringRep* rep)
+{
+    tLiveStringBytes -= rep->size;
+    std::free(rep);
+}
+
+std::int32_t StringRep::charCount()
+{
+    if (chars < 0) {
+        std::uint32_t i = 0;
+        while (i < size && static_cast<unsigned char>(data[i]) < 0x80)
+            ++i;
+        chars = i == size ? std::int32_t(size) : std::int32_t(script::charCount(view()));
+    }
+    return chars;
+}
+
+ArrayRep* ArrayRep::make(std::vector<std::int32_t> upper, bool fixedSize)
+{
+    std::size_t count = 1;
+    for (auto u : upper) {
+        if (u < -1)
+            raise(errc::SubscriptOutOfRange);
+        count *= std::size_t(u) + 1;
+        if (count > tLimits.maxArrayItems)
+            raise(errc::OutOfMemory);
+    }
+    auto* a = new ArrayRep;
+    a->fixedSize = fixedSize;
+    a->upper = std::move(upper);
+    a->items.resize(a->upper.empty() ? 0 : count);
+    return a;
+}
+
+void ArrayRep::destroy(ArrayRep* a)
+{
+    delete a;
+}
+
+ArrayRep* ArrayRep::clone() const
+{
+    auto* a = new ArrayRep;
+    a->fixedSize = fixedSize;
+    a->upper = upper;
+    a->items = items;
+    return a;
+}
+
+std::int64_t ArrayRep::offset(const std::int32_t* subscripts, std::size_t count) const
+{
+    if (count != upper.size())
+        return -1;
+    std::int64_t off = 0;
+    for (std::size_t d = 0; d < count; ++d) {
+        if (subscripts[d] < 0 || subscripts[d] > upper[d])
+            return -1;
+        off = off * (std::int64_t(upper[d]) + 1) + subscripts[d];
+    }
+    return off;
+}
+
+Object::~Object() = default;
+
+}  // namespace qor::script
