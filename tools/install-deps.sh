@@ -9,7 +9,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools libgl-dev libglx-dev
   qt6-multimedia-dev qt6-translations-l10n
   libgtest-dev libgmock-dev googletest libbenchmark-dev
-  lua5.4
+  lua5.4 liblua5.4-dev
   fonts-dejavu-core
 )
 if [[ "${1:-}" == "fuzz" ]]; then

@@ -45,6 +45,20 @@ Value numericForLoop(const Value& v)
 
 }  // namespace
 
+bool Expr::test(Frame& f) const
+{
+    Value c = eval(f);
+    return c.type() == Type::Boolean ? c.asBool() : isTrue(c);
+}
+
+Operand::Operand(ExprPtr e) : expr(std::move(e))
+{
+    if (auto* l = dynamic_cast<LocalGet*>(expr.get()))
+        slot = l->slot;
+    else if (auto* k = dynamic_cast<Literal*>(expr.get()))
+        constant = &k->value;
+}
+
 Value& VarRef::storage(Frame& f) const
 {
     switch (kind) {
@@ -238,6 +252,39 @@ Flow ForStmt::exec(Frame& f) const
     else
         var.storage(f) = std::move(from);
     int forLine = line;
+    if (var.kind == VarRef::Local && to.isInteger() && by.isInteger()) {
+        // A local counter with whole-number bounds: the common loop, kept tight.
+        Value* slotp = &f.locals[var.slot];
+        const std::int32_t limit32 = to.asInt(), step32 = by.asInt();
+        const bool integerStep = by.type() == Type::Integer;
+        for (;;) {
+            Value& cur = *slotp;
+            if (!cur.isInteger())
+                break;  // the body stored something else: finish on the general path
+            std::int32_t c = cur.asInt();
+            if (up ? c > limit32 : c < limit32)
+                return Flow::Normal;
+            Flow fl = body->exec(f);
+            if (fl == Flow::ExitFor)
+                return Flow::Normal;
+            if (fl != Flow::Normal)
+                return fl;
+            f.rt->tick();
+            f.rt->line = forLine;
+            Value& after = *slotp;
+            if (!after.isInteger()) {
+                after = add(numericForLoop(after), by);
+                continue;
+            }
+            std::int64_t n = std::int64_t(after.asInt()) + step32;
+            if (after.type() == Type::Integer && integerStep && n >= -32768 && n <= 32767)
+                after = Value::integer(std::int32_t(n));
+            else if (n >= INT32_MIN && n <= INT32_MAX)
+                after = Value::longValue(std::int32_t(n));
+            else
+                after = Value::dbl(double(n));
+        }
+    }
     for (;;) {
         // The counter is the variable itself: the body may change it.
         Value& counter = var.kind == VarRef::Global ? var.storage(f) : var.storage(f);
@@ -315,8 +362,7 @@ Flow DoStmt::exec(Frame& f) const
 {
     auto test = [&]() {
         f.rt->line = conditionLine;
-        Value c = condition->eval(f);
-        bool t = c.type() == Type::Boolean ? c.asBool() : isTrue(c);
+        bool t = condition->test(f);
         return (kind == DoKind::PreWhile || kind == DoKind::PostWhile) ? t : !t;
     };
     for (;;) {

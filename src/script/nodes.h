@@ -95,15 +95,74 @@ struct BinaryExpr final : Expr {
     Value eval(Frame& f) const override;
 };
 
+// An operand of the hot operators: a local or a literal is read in place,
+// without a virtual call or a copy; anything else is evaluated.
+struct Operand {
+    ExprPtr expr;
+    int slot = -1;
+    const Value* constant = nullptr;
+
+    explicit Operand(ExprPtr e);
+    bool simple() const { return slot >= 0 || constant; }
+    const Value& get(Frame& f, Value& tmp) const
+    {
+        if (slot >= 0)
+            return f.locals[slot];
+        if (constant)
+            return *constant;
+        tmp = expr->eval(f);
+        return tmp;
+    }
+};
+
+// Reads both operands left to right; a local on the left is copied first
+// when the right side may run code that changes it.
+#define QOR_OPERANDS(f)                                              \
+    Value ta, tb;                                                    \
+    const Value* pa = &left.get(f, ta);                              \
+    if (!right.simple() && pa != &ta) {                              \
+        ta = *pa;                                                    \
+        pa = &ta;                                                    \
+    }                                                                \
+    const Value& a = *pa;                                            \
+    const Value& b = right.get(f, tb)
+
 // Arithmetic and comparison with the whole-number fast path inline: the
 // loops menus run are mostly counters.
+// Stores a whole-number result in out with the language's promotion
+// (Integer, then Long); false when it needs a Double.
+inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+{
+    if (integerOperands && n >= -32768 && n <= 32767) {
+        out = Value::integer(std::int32_t(n));
+        return true;
+    }
+    if (n >= INT32_MIN && n <= INT32_MAX) {
+        out = Value::longValue(std::int32_t(n));
+        return true;
+    }
+    return false;
+}
+
 struct AddExpr final : Expr {
-    ExprPtr left, right;
+    Operand left, right;
     AddExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    // local = a + b on locals and literals, computed in place.
+    bool intoLocal(Frame& f, Value& out) const
+    {
+        if (!left.simple() || !right.simple())
+            return false;
+        Value ta, tb;
+        const Value& a = left.get(f, ta);
+        const Value& b = right.get(f, tb);
+        if (!a.isInteger() || !b.isInteger())
+            return false;
+        return storeWhole(out, std::int64_t(a.asInt()) + b.asInt(),
+                          a.type() == Type::Integer && b.type() == Type::Integer);
+    }
     Value eval(Frame& f) const override
     {
-        Value a = left->eval(f);
-        Value b = right->eval(f);
+        QOR_OPERANDS(f);
         if (a.isInteger() && b.isInteger()) {
             std::int64_t n = std::int64_t(a.asInt()) + b.asInt();
             if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
@@ -122,12 +181,23 @@ struct AddExpr final : Expr {
 };
 
 struct SubExpr final : Expr {
-    ExprPtr left, right;
+    Operand left, right;
     SubExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    bool intoLocal(Frame& f, Value& out) const
+    {
+        if (!left.simple() || !right.simple())
+            return false;
+        Value ta, tb;
+        const Value& a = left.get(f, ta);
+        const Value& b = right.get(f, tb);
+        if (!a.isInteger() || !b.isInteger())
+            return false;
+        return storeWhole(out, std::int64_t(a.asInt()) - b.asInt(),
+                          a.type() == Type::Integer && b.type() == Type::Integer);
+    }
     Value eval(Frame& f) const override
     {
-        Value a = left->eval(f);
-        Value b = right->eval(f);
+        QOR_OPERANDS(f);
         if (a.isInteger() && b.isInteger()) {
             std::int64_t n = std::int64_t(a.asInt()) - b.asInt();
             if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
@@ -144,37 +214,44 @@ struct SubExpr final : Expr {
 struct CompareExpr final : Expr {
     Compare op;
     std::uint8_t literals;
-    ExprPtr left, right;
+    Operand left, right;
     CompareExpr(Compare o, std::uint8_t lit, ExprPtr a, ExprPtr b)
         : op(o), literals(lit), left(std::move(a)), right(std::move(b)) {}
+    static bool intCompare(Compare op, std::int32_t x, std::int32_t y)
+    {
+        switch (op) {
+        case Compare::Eq: return x == y;
+        case Compare::Ne: return x != y;
+        case Compare::Lt: return x < y;
+        case Compare::Le: return x <= y;
+        case Compare::Gt: return x > y;
+        case Compare::Ge: return x >= y;
+        }
+        return false;
+    }
     Value eval(Frame& f) const override
     {
-        Value a = left->eval(f);
-        Value b = right->eval(f);
-        if (a.isInteger() && b.isInteger()) {
-            std::int32_t x = a.asInt(), y = b.asInt();
-            bool r = false;
-            switch (op) {
-            case Compare::Eq: r = x == y; break;
-            case Compare::Ne: r = x != y; break;
-            case Compare::Lt: r = x < y; break;
-            case Compare::Le: r = x <= y; break;
-            case Compare::Gt: r = x > y; break;
-            case Compare::Ge: r = x >= y; break;
-            }
-            return Value::boolean(r);
-        }
+        QOR_OPERANDS(f);
+        if (a.isInteger() && b.isInteger())
+            return Value::boolean(intCompare(op, a.asInt(), b.asInt()));
         return compare(op, a, b, literals);
+    }
+    bool test(Frame& f) const override
+    {
+        QOR_OPERANDS(f);
+        if (a.isInteger() && b.isInteger())
+            return intCompare(op, a.asInt(), b.asInt());
+        Value r = compare(op, a, b, literals);
+        return r.type() == Type::Boolean && r.asBool();
     }
 };
 
 struct ConcatExpr final : Expr {
-    ExprPtr left, right;
+    Operand left, right;
     ConcatExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
     Value eval(Frame& f) const override
     {
-        Value a = left->eval(f);
-        Value b = right->eval(f);
+        QOR_OPERANDS(f);
         return concat(a, b);
     }
 };
@@ -258,9 +335,21 @@ struct AssignLocal final : Stmt {
     int slot;
     ExprPtr value;
     bool isSet;
-    AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set) {}
+    const AddExpr* addValue = nullptr;  // counters: x = x + 1 without a call or a copy
+    const SubExpr* subValue = nullptr;
+    AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set)
+    {
+        if (!isSet) {
+            addValue = dynamic_cast<const AddExpr*>(value.get());
+            subValue = dynamic_cast<const SubExpr*>(value.get());
+        }
+    }
     Flow exec(Frame& f) const override
     {
+        if (addValue && addValue->intoLocal(f, f.locals[slot]))
+            return Flow::Normal;
+        if (subValue && subValue->intoLocal(f, f.locals[slot]))
+            return Flow::Normal;
         Value v = value->eval(f);
         if (v.type() >= Type::Object)
             v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
@@ -310,8 +399,7 @@ struct IfStmt final : Stmt {
     Flow exec(Frame& f) const override
     {
         for (std::size_t i = 0; i < conditions.size(); ++i) {
-            Value c = conditions[i]->eval(f);
-            if (c.type() == Type::Boolean ? c.asBool() : isTrue(c))
+            if (conditions[i]->test(f))
                 return blocks[i]->exec(f);
         }
         if (blocks.size() > conditions.size())

@@ -39,6 +39,8 @@ struct Expr {
     virtual Value* reference(Frame&) const { return nullptr; }
     virtual bool isLiteral() const { return false; }
     virtual bool isMissing() const { return false; }
+    // The value as an If or loop condition (Null is false).
+    virtual bool test(Frame& f) const;
 };
 using ExprPtr = std::unique_ptr<Expr>;
 using ExprList = std::vector<ExprPtr>;

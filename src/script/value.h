@@ -23,7 +23,7 @@ enum class Type : std::uint8_t { Empty, Null, Boolean, Integer, Long, Double, Da
 class Value {
 public:
     Value() noexcept : type_(Type::Empty), i_(0) {}
-    Value(const Value& other) noexcept : type_(other.type_), bits_(other.bits_) { retain(); }
+    Value(const Value& other) noexcept : type_(other.type_), bits_(other.bits_) { if (counted(type_)) retain(); }
     Value(Value&& other) noexcept : type_(other.type_), bits_(other.bits_) { other.type_ = Type::Empty; }
     ~Value() { if (counted(type_)) release(); }
 
@@ -77,7 +77,7 @@ public:
     bool isNumber() const { return type_ >= Type::Boolean && type_ <= Type::Date; }
 
     bool asBool() const { return i_ != 0; }
-    std::int32_t asInt() const { return i_; }
+    std::int32_t asInt() const { return std::int32_t(i_); }
     double asDouble() const { return d_; }
     StringRep* asStringRep() const { return s_; }
     std::string_view asStringView() const;
@@ -95,8 +95,10 @@ private:
     void release();
 
     Type type_;
+    // Whole numbers are kept in 64 bits so that every payload is written and
+    // read as one 8-byte word (a narrower store defeats store forwarding).
     union {
-        std::int32_t i_;
+        std::int64_t i_;
         double d_;
         StringRep* s_;
         ArrayRep* a_;

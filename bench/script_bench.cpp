@@ -1,0 +1,163 @@
+// The script engine beside Lua 5.4 on the same three loops of one million
+// turns: numbers (add and compare), strings (join two short strings, then
+// Len, Mid and InStr of the result) and a Function call of one argument.
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+extern "C" {
+#include <lauxlib.h>
+#include <lua.h>
+#include <lualib.h>
+}
+
+#include "script/module.h"
+
+using namespace qor::script;
+
+namespace {
+
+constexpr int kTurns = 1000000;
+
+const char* kVbs = R"(
+Function NumLoop(n)
+    Dim i, s
+    s = 0
+    For i = 1 To n
+        s = s + i
+        If s > 1000000 Then s = s - 1000000
+    Next
+    NumLoop = s
+End Function
+
+Function StrLoop(n)
+    Dim i, a, b, s, t
+    a = "menu"
+    b = "QOR"
+    t = 0
+    For i = 1 To n
+        s = a & b
+        t = t + Len(s) + Len(Mid(s, 2, 3)) + InStr(s, "QOR")
+    Next
+    StrLoop = t
+End Function
+
+Function Inc(x)
+    Inc = x + 1
+End Function
+
+Function CallLoop(n)
+    Dim i, s
+    s = 0
+    For i = 1 To n
+        s = Inc(s)
+    Next
+    CallLoop = s
+End Function
+)";
+
+const char* kLua = R"(
+function numloop(n)
+    local s = 0
+    for i = 1, n do
+        s = s + i
+        if s > 1000000 then s = s - 1000000 end
+    end
+    return s
+end
+
+function strloop(n)
+    local a, b, t = "menu", "QOR", 0
+    for i = 1, n do
+        local s = a .. b
+        t = t + #s + #string.sub(s, 2, 4) + string.find(s, "QOR", 1, true)
+    end
+    return t
+end
+
+local function inc(x)
+    return x + 1
+end
+
+function callloop(n)
+    local s = 0
+    for i = 1, n do
+        s = inc(s)
+    end
+    return s
+end
+)";
+
+// Both engines must agree on every result, or the timing means nothing.
+constexpr double kNumResult = 500000;
+constexpr double kStrResult = 15.0 * kTurns;
+constexpr double kCallResult = kTurns;
+
+void runVbs(benchmark::State& state, const char* proc, double expected)
+{
+    Module module;
+    RunResult loaded = module.addCode(kVbs);
+    if (!loaded.ok()) {
+        state.SkipWithError(loaded.error->description.c_str());
+        return;
+    }
+    for (auto _ : state) {
+        RunResult r = module.run(proc, {Value::longValue(kTurns)});
+        if (!r.ok()) {
+            state.SkipWithError(r.error->description.c_str());
+            return;
+        }
+        double v = r.value.isInteger() ? r.value.asInt() : r.value.asDouble();
+        if (v != expected) {
+            state.SkipWithError("wrong result");
+            return;
+        }
+        benchmark::DoNotOptimize(v);
+    }
+}
+
+void runLua(benchmark::State& state, const char* fn, double expected)
+{
+    lua_State* L = luaL_newstate();
+    luaL_openlibs(L);
+    if (luaL_dostring(L, kLua) != 0) {
+        state.SkipWithError(lua_tostring(L, -1));
+        lua_close(L);
+        return;
+    }
+    for (auto _ : state) {
+        lua_getglobal(L, fn);
+        lua_pushinteger(L, kTurns);
+        if (lua_pcall(L, 1, 1, 0) != 0) {
+            state.SkipWithError(lua_tostring(L, -1));
+            break;
+        }
+        double v = lua_tonumber(L, -1);
+        lua_pop(L, 1);
+        if (v != expected) {
+            state.SkipWithError("wrong result");
+            break;
+        }
+        benchmark::DoNotOptimize(v);
+    }
+    lua_close(L);
+}
+
+void BM_Numeric_Vbs(benchmark::State& s) { runVbs(s, "NumLoop", kNumResult); }
+void BM_Numeric_Lua(benchmark::State& s) { runLua(s, "numloop", kNumResult); }
+void BM_String_Vbs(benchmark::State& s) { runVbs(s, "StrLoop", kStrResult); }
+void BM_String_Lua(benchmark::State& s) { runLua(s, "strloop", kStrResult); }
+void BM_Call_Vbs(benchmark::State& s) { runVbs(s, "CallLoop", kCallResult); }
+void BM_Call_Lua(benchmark::State& s) { runLua(s, "callloop", kCallResult); }
+
+}  // namespace
+
+BENCHMARK(BM_Numeric_Vbs)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Numeric_Lua)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_String_Vbs)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_String_Lua)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Call_Vbs)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Call_Lua)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_MAIN();
