@@ -90,7 +90,7 @@ Compiler::Resolved Compiler::resolve(const std::string& name, bool forCall)
         r.constant = c->second;
         return r;
     }
-    if (newProcedures_.count(key) || newVariables_.count(key)) {
+    if (newProcedures_.count(key) || newVariables_.count(key) || topAssigned_.count(key)) {
         r.kind = NameKind::Global;
         r.global = &moduleGlobal(name);
         return r;
@@ -710,6 +710,13 @@ std::unique_ptr<Chunk> Compiler::compile(Program& program)
             }
         }
     });
+    if (rt_.exposed.empty()) {
+        // A procedure that assigns a name the top level also assigns works
+        // on that module variable, not on a local of its own.
+        Scope probe;
+        collectAssigned(*program.body, probe);
+        topAssigned_ = std::move(probe.assigned);
+    }
     for (auto& syn : program.procedures) {
         auto& proc = newProcedures_.at(lowerAscii(syn->name));
         proc->body = procedure(*syn, *proc);

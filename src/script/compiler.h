@@ -91,6 +91,8 @@ private:
     std::unordered_map<std::string, std::shared_ptr<Procedure>> newProcedures_;
     std::unordered_map<std::string, Value> newConstants_;
     std::unordered_set<std::string> newVariables_;
+    // Names the top level of the text assigns: module variables once it has run.
+    std::unordered_set<std::string> topAssigned_;
 };
 
 }  // namespace qor::script

@@ -802,6 +802,16 @@ SyntaxPtr Parser::parseNot()
 
 SyntaxPtr Parser::parseUnary()
 {
+    if (isKw(Kw::Not)) {
+        // "1 + Not 0": Not as an operand.
+        NestGuard g(*this);
+        auto n = node(Syn::Unary);
+        n->op = std::uint8_t(UnOp::Not);
+        advance();
+        n->kids.push_back(parseUnary());
+        n->depth = n->kids[0]->depth + 1;
+        return n;
+    }
     if (tok().type != Tok::Minus && tok().type != Tok::Plus)
         return parsePower();
     NestGuard g(*this);
