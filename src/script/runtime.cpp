@@ -14,6 +14,20 @@ constexpr std::int64_t kTickChunk = 1 << 12;
 
 HostObject* hostObject(const Value& v) { return static_cast<HostObject*>(v.asObject()); }
 
+// obj.name(args): a property or method that takes the arguments, or else a
+// property without arguments (a control array, a collection) indexed by them.
+HostResult readMember(Runtime& rt, HostObject* h, const std::string& name, std::span<Value> args, bool asStatement)
+{
+    HostResult r = asStatement ? h->callMethod(name, args) : h->getProperty(name, args);
+    if (!r.failed() || args.empty() ||
+        (r.error->number != errc::NoSuchMember && r.error->number != errc::WrongArguments))
+        return r;
+    HostResult whole = h->getProperty(name, {});
+    if (whole.failed() || !(whole.value.isObject() || whole.value.isArray()))
+        return r;
+    return HostResult::ok(rt.index(whole.value, args, name));
+}
+
 [[noreturn]] void raiseHostError(ScriptError e, std::string_view member)
 {
     if (e.number == errc::NoSuchMember && e.description == errorDescription(errc::NoSuchMember) && !member.empty())
@@ -126,7 +140,7 @@ Value Runtime::callGlobal(Global& g, const ExprList& args, Frame& f, bool asStat
         return index(g.value, values, g.name);
     }
     for (auto& o : exposed) {
-        HostResult r = asStatement ? o->callMethod(g.name, values) : o->getProperty(g.name, values);
+        HostResult r = readMember(*this, o.get(), g.name, values, asStatement);
         if (!r.failed())
             return std::move(r.value);
         if (r.error->number != errc::NoSuchMember)
@@ -218,8 +232,7 @@ Value Runtime::getMember(const Value& object, const std::string& name, std::span
     for (auto& a : args)
         if (isMissing(a))
             a = Value();
-    HostObject* h = hostObject(o);
-    HostResult r = asStatement ? h->callMethod(name, args) : h->getProperty(name, args);
+    HostResult r = readMember(*this, hostObject(o), name, args, asStatement);
     if (r.failed())
         raiseHostError(*r.error, name);
     return std::move(r.value);

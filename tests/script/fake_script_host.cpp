@@ -74,7 +74,7 @@ HostResult FakeObject::setProperty(std::string_view name, Args args, const Value
 HostResult FakeObject::callMethod(std::string_view name, Args args)
 {
     std::string key = lowerAscii(name);
-    if (key == "additem") {
+    if (key == "additem" && typeName_ == "ListBox") {
         if (args.empty())
             return HostResult::fail(errc::WrongArguments);
         phrases.push_back(toText(args[0]));
