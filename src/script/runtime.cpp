@@ -9,7 +9,7 @@
 namespace qor::script {
 
 namespace {
-constexpr std::size_t kStackValues = 1 << 18;
+constexpr std::size_t kStackValues = 1 << 16;
 constexpr std::int64_t kTickChunk = 1 << 12;
 
 HostObject* hostObject(const Value& v) { return static_cast<HostObject*>(v.asObject()); }

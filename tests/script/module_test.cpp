@@ -1,0 +1,264 @@
+// The module model (texts added one after the other, procedures run by
+// name, expressions evaluated, reset) and the safety limits.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include "fake_script_host.h"
+#include "script/operations.h"
+
+namespace qor::script::test {
+namespace {
+
+TEST(ModuleModel, LaterTextsSeeEarlierProceduresConstantsAndVariables)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    ASSERT_TRUE(module.addCode("Const Titre = \"Menu\"\r\nDim compteur\r\ncompteur = 10\r\n"
+                               "Sub Compter()\r\n  compteur = compteur + 1\r\nEnd Sub\r\n"
+                               "Function Double(x)\r\n  Double = 2 * x\r\nEnd Function")
+                    .ok());
+    ASSERT_TRUE(module.addCode("Compter\r\nCompter").ok());
+    ASSERT_TRUE(module.addCode("MsgBox Titre & \" \" & compteur & \" \" & Double(compteur)").ok());
+    EXPECT_EQ(host.output(), "Menu 12 24");
+    EXPECT_TRUE(module.hasProcedure("compter"));
+    EXPECT_FALSE(module.hasProcedure("Titre"));
+}
+
+TEST(ModuleModel, RunCallsAProcedureByNameWithArguments)
+{
+    Module module;
+    ASSERT_TRUE(module.addCode("Function Somme(a, b)\r\n  Somme = a + b\r\nEnd Function\r\nSub Rien()\r\nEnd Sub").ok());
+    RunResult r = module.run("SOMME", {Value::integer(2), Value::string("3")});
+    ASSERT_TRUE(r.ok());
+    EXPECT_EQ(toText(r.value), "5");
+    EXPECT_TRUE(module.run("Rien").value.isEmpty());
+
+    r = module.run("Somme", {Value::integer(1)});
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 450);
+    r = module.run("Absente");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 35);
+    EXPECT_EQ(module.lastError()->number, 35);
+}
+
+TEST(ModuleModel, EvalGivesTheValueOfAnExpression)
+{
+    Module module;
+    ASSERT_TRUE(module.addCode("x = 20\r\nFunction Moitie(v)\r\n  Moitie = v / 2\r\nEnd Function").ok());
+    RunResult r = module.eval("Moitie(x) + 1");
+    ASSERT_TRUE(r.ok());
+    EXPECT_EQ(r.value.type(), Type::Double);
+    EXPECT_EQ(toText(r.value), "11");
+    r = module.eval("x +");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 1023);
+    r = module.eval("x / 0");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 11);
+}
+
+TEST(ModuleModel, ASyntaxErrorLeavesTheModuleAsItWas)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    ASSERT_TRUE(module.addCode("Function F()\r\n  F = 1\r\nEnd Function").ok());
+    RunResult r = module.addCode("Function F()\r\n  F = 2\r\nEnd Function\r\nMsgBox \"ran\"\r\nx = (");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->line, 5);
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(toText(module.run("F").value), "1");
+}
+
+TEST(ModuleModel, ARunTimeErrorKeepsWhatRanBeforeIt)
+{
+    Module module;
+    RunResult r = module.addCode("a = 1\r\nb = 2\r\nc = a / 0\r\nd = 4");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->line, 3);
+    EXPECT_EQ(toText(module.eval("a & b & IsEmpty(c) & IsEmpty(d)").value), "12TrueTrue");
+}
+
+TEST(ModuleModel, ResetForgetsEverything)
+{
+    Module module;
+    ASSERT_TRUE(module.addCode("x = 5\r\nSub P()\r\nEnd Sub").ok());
+    module.reset();
+    EXPECT_FALSE(module.hasProcedure("P"));
+    EXPECT_TRUE(module.eval("x").value.isEmpty());
+}
+
+// ---- Safety ----
+
+TEST(Safety, TheStepBudgetEndsARunawayLoopEvenUnderResumeNext)
+{
+    const char* loops[] = {
+        "Do\r\nLoop",
+        "On Error Resume Next\r\nWhile True\r\n  x = x + 1\r\nWend",
+        "Sub A()\r\n  B\r\nEnd Sub\r\nSub B()\r\n  A\r\nEnd Sub\r\nOn Error Resume Next\r\nDo\r\n  A\r\nLoop",
+        "For i = 1 To 2\r\n  i = 1\r\nNext",
+    };
+    for (const char* code : loops) {
+        Module module;
+        module.setStepBudget(100000);
+        RunResult r = module.addCode(code);
+        ASSERT_FALSE(r.ok()) << code;
+        EXPECT_EQ(r.error->number, 18) << code;
+        EXPECT_TRUE(r.error->fatal);
+        // The budget is per run: the module goes on working.
+        EXPECT_TRUE(module.addCode("y = 1").ok());
+    }
+}
+
+TEST(Safety, ABudgetLeavesBoundedLoopsAlone)
+{
+    Module module;
+    module.setStepBudget(1000);
+    EXPECT_TRUE(module.addCode("For i = 1 To 500\r\nNext").ok());
+    EXPECT_TRUE(module.addCode("For i = 1 To 500\r\nNext").ok());
+}
+
+class StoppingHost : public FakeScriptHost {
+public:
+    Module* module = nullptr;
+    int msgBox(const MsgBoxRequest& r) override
+    {
+        module->requestStop();
+        return FakeScriptHost::msgBox(r);
+    }
+};
+
+TEST(Safety, AStopRequestEndsTheRunningScript)
+{
+    StoppingHost host;
+    Module module(&host);
+    host.module = &module;
+    RunResult r = module.addCode("MsgBox \"stop me\"\r\nOn Error Resume Next\r\nDo\r\n  n = n + 1\r\nLoop");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 18);
+    EXPECT_EQ(r.error->line, 4);
+    // A stop request is for the run it interrupts only.
+    EXPECT_TRUE(module.addCode("m = 1").ok());
+}
+
+TEST(Safety, AStopRequestFromAnotherThreadEndsAnEndlessLoop)
+{
+    Module module;
+    std::atomic<bool> started{false};
+    std::thread stopper([&] {
+        while (!started.load())
+            std::this_thread::yield();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        module.requestStop();
+    });
+    started = true;
+    RunResult r = module.addCode("Do\r\n  n = n + 1\r\nLoop");
+    stopper.join();
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 18);
+}
+
+TEST(Safety, DeepRecursionFailsWithOutOfStackSpace)
+{
+    Module module;
+    RunResult r = module.addCode("Function Down(n)\r\n  Down = Down(n + 1) + 1\r\nEnd Function\r\nx = Down(1)");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 28);
+    // Trapped, the error unwinds the whole chain and the script goes on.
+    r = module.addCode("Function Down2(n)\r\n  On Error Resume Next\r\n  Down2 = 1\r\n  Down2 = Down2(n + 1) + 1\r\nEnd Function\r\nx = Down2(1)\r\nMsgBox x");
+    EXPECT_TRUE(r.ok());
+}
+
+TEST(Safety, DeepNestingFailsBeforeRunning)
+{
+    std::vector<std::string> texts;
+    texts.push_back("x = " + std::string(5000, '(') + "1" + std::string(5000, ')'));
+    std::string ifs;
+    for (int i = 0; i < 3000; ++i)
+        ifs += "If True Then\r\n";
+    texts.push_back(ifs);
+    std::string sum = "x = 1";
+    for (int i = 0; i < 20000; ++i)
+        sum += " + 1";
+    texts.push_back(sum);
+    texts.push_back("x = " + std::string(20000, '-') + "1");
+    texts.push_back("x = a" + std::string(20000, '.') );
+    std::string calls = "x = ";
+    for (int i = 0; i < 3000; ++i)
+        calls += "Len(";
+    texts.push_back(calls + "1" + std::string(3000, ')'));
+    for (const auto& t : texts) {
+        Module module;
+        RunResult r = module.addCode(t);
+        ASSERT_FALSE(r.ok()) << t.substr(0, 40);
+        EXPECT_TRUE(r.error->number == 28 || r.error->number == 1010) << r.error->number << " " << t.substr(0, 40);
+    }
+}
+
+TEST(Safety, ReasonableNestingStillRuns)
+{
+    Module module;
+    std::string code = "x = " + std::string(100, '(') + "1" + std::string(100, ')') + "\r\n";
+    for (int i = 0; i < 50; ++i)
+        code += "If x = 1 Then\r\n";
+    code += "y = 2\r\n";
+    for (int i = 0; i < 50; ++i)
+        code += "End If\r\n";
+    ASSERT_TRUE(module.addCode(code).ok());
+    EXPECT_EQ(toText(module.eval("y").value), "2");
+}
+
+// Lower limits for the duration of a test.
+class SmallMemory {
+public:
+    SmallMemory() : saved_(memoryLimits())
+    {
+        memoryLimits().maxStringBytes = 8 << 20;
+        memoryLimits().maxLiveStringBytes = 32 << 20;
+    }
+    ~SmallMemory() { memoryLimits() = saved_; }
+
+private:
+    MemoryLimits saved_;
+};
+
+TEST(Safety, HugeStringsFailInsteadOfExhaustingMemory)
+{
+    std::size_t before = liveStringBytes();
+    for (const char* t : {"s = String(2000000000, \"x\")", "s = Space(300000000)", "Dim a(100000, 100000)"}) {
+        Module module;
+        RunResult r = module.addCode(t);
+        ASSERT_FALSE(r.ok()) << t;
+        EXPECT_TRUE(r.error->number == 14 || r.error->number == 7) << t << " " << r.error->number;
+    }
+    SmallMemory limits;
+    const char* texts[] = {
+        "s = \"x\"\r\nDo\r\n  s = s & s\r\nLoop",
+        "s = \"xx\"\r\nDo\r\n  s = Replace(s, \"x\", \"xx\")\r\nLoop",
+        "Dim a(10000)\r\nFor i = 0 To 10000\r\n  a(i) = Space(1000000) & i\r\nNext",
+    };
+    for (const char* t : texts) {
+        Module module;
+        RunResult r = module.addCode(t);
+        ASSERT_FALSE(r.ok()) << t;
+        EXPECT_TRUE(r.error->number == 14 || r.error->number == 7) << t << " " << r.error->number;
+    }
+    EXPECT_EQ(liveStringBytes(), before);
+}
+
+TEST(Safety, StringsAndArraysAreFreedAfterRuns)
+{
+    std::size_t before = liveStringBytes();
+    {
+        Module module;
+        ASSERT_TRUE(module.addCode("Dim a(100)\r\nFor i = 0 To 100\r\n  a(i) = String(1000, \"x\") & i\r\nNext\r\nb = a\r\nb(0) = \"y\"").ok());
+        EXPECT_GT(liveStringBytes(), before + 100000u);
+    }
+    EXPECT_EQ(liveStringBytes(), before);
+}
+
+}  // namespace
+}  // namespace qor::script::test
