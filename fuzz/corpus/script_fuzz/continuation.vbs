@@ -1,0 +1,4 @@
+MsgBox "a" & _
+  "b" & _
+  "c" : Rem done
+x = 1 : y = 2 ' comment

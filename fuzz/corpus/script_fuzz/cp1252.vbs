@@ -1,0 +1,1 @@
+MsgBox "Réglages à l'écran"

@@ -1,0 +1,4 @@
+Function f(n)
+  f = f(n + 1)
+End Function
+x = f(1)

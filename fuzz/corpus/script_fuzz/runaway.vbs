@@ -1,0 +1,4 @@
+Do
+  n = n + 1
+  s = s & "x"
+Loop

@@ -1,0 +1,4 @@
+If x Then
+  MsgBox "a"
+Else If
+For i = 1 To

@@ -1,0 +1,5 @@
+Caption = "Main window"
+Command1.Caption = "&Open"
+Form2.Label1.Caption = "Hello"
+langue_selection(1).Caption = "English"
+Liste.AddItem "phrase 0"
