@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 
 #include "script/operations.h"
 #include "script/script_text.h"
@@ -40,10 +41,18 @@ HostResult readMember(Runtime& rt, HostObject* h, const std::string& name, std::
 Expr::~Expr() = default;
 Stmt::~Stmt() = default;
 
-Runtime::Runtime(ScriptHost* host) : host_(host), err_(new ErrObject), stack_(kStackValues)
+namespace {
+void freeStack(Value* p) { std::free(p); }
+}  // namespace
+
+Runtime::Runtime(ScriptHost* host)
+    : host_(host), err_(new ErrObject),
+      stack_(static_cast<Value*>(std::malloc(kStackValues * sizeof(Value))), freeStack)
 {
-    sp_ = stack_.data();
-    stackEnd_ = stack_.data() + stack_.size();
+    if (!stack_)
+        throw std::bad_alloc();
+    sp_ = stack_.get();
+    stackEnd_ = sp_ + kStackValues;
     Global& e = globalSlot("Err");
     e.kind = Global::HostObj;
     e.value = Value::object(err_.get());
@@ -151,9 +160,11 @@ Value Runtime::callGlobal(Global& g, const ExprList& args, Frame& f, bool asStat
 
 Value* Runtime::pushFrame(int count)
 {
-    if (sp_ + count > stackEnd_)
+    if (count > stackEnd_ - sp_)
         raise(errc::OutOfStack);
     Value* base = sp_;
+    for (int i = 0; i < count; ++i)
+        new (base + i) Value();
     sp_ += count;
     return base;
 }
@@ -161,7 +172,7 @@ Value* Runtime::pushFrame(int count)
 void Runtime::popFrame(Value* base)
 {
     for (Value* p = base; p < sp_; ++p)
-        *p = Value();
+        p->~Value();
     sp_ = base;
 }
 

@@ -147,7 +147,9 @@ private:
     std::deque<Global> globals_;
     std::unordered_map<std::string, Global*> globalIndex_;
     Ref<ErrObject> err_;
-    std::vector<Value> stack_;
+    // Raw storage: slots are constructed when a frame is pushed, so a new
+    // module costs no more than the frames it uses.
+    std::unique_ptr<Value, void (*)(Value*)> stack_;
     Value* sp_;
     Value* stackEnd_;
     std::int64_t ticks_ = 1 << 20;
