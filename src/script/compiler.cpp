@@ -266,7 +266,7 @@ ExprPtr Compiler::nameCall(SyntaxNode& nameNode, std::vector<std::unique_ptr<Syn
     case NameKind::Builtin:
         if (int(args.size()) < r.builtin->minArgs || int(args.size()) > r.builtin->maxArgs)
             return at(std::make_unique<RaiseExpr>(errc::WrongArguments, r.builtin->name), line);
-        return at(std::make_unique<BuiltinCall>(r.builtin->fn, std::move(args)), line);
+        return at(std::make_unique<BuiltinCall>(r.builtin->fn, std::move(args), r.builtin->minArgs), line);
     default:
         return at(std::make_unique<GlobalCall>(r.global, std::move(args), asStatement), line);
     }
@@ -311,7 +311,7 @@ ExprPtr Compiler::expr(SyntaxNode& n)
         case NameKind::Builtin:
             if (r.builtin->minArgs > 0)
                 return at(std::make_unique<RaiseExpr>(errc::WrongArguments, r.builtin->name), line);
-            return at(std::make_unique<BuiltinCall>(r.builtin->fn, ExprList{}), line);
+            return at(std::make_unique<BuiltinCall>(r.builtin->fn, ExprList{}, 0), line);
         default: return at(std::make_unique<GlobalGet>(r.global), line);
         }
     }

@@ -160,9 +160,17 @@ Value BinaryExpr::eval(Frame& f) const
 Value BuiltinCall::eval(Frame& f) const
 {
     ArgValues values(args, f);
-    for (auto& v : values.span())
-        if (v.isRef() && !script::isMissing(v))
-            v = Value(v.deref());
+    std::size_t i = 0;
+    for (auto& v : values.span()) {
+        if (v.isRef()) {
+            // A required argument cannot be left out: Mid(s, , 2).
+            if (script::isMissing(v) && i < std::size_t(minArgs))
+                raise(errc::InvalidCall);
+            if (!script::isMissing(v))
+                v = Value(v.deref());
+        }
+        ++i;
+    }
     return fn(*f.rt, values.span());
 }
 

@@ -261,7 +261,8 @@ using BuiltinFn = Value (*)(Runtime&, std::span<Value>);
 struct BuiltinCall final : Expr {
     BuiltinFn fn;
     ExprList args;
-    BuiltinCall(BuiltinFn f, ExprList a) : fn(f), args(std::move(a)) {}
+    int minArgs;
+    BuiltinCall(BuiltinFn f, ExprList a, int required) : fn(f), args(std::move(a)), minArgs(required) {}
     Value eval(Frame& f) const override;
 };
 

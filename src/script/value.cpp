@@ -17,6 +17,21 @@ thread_local std::size_t tLiveStringBytes = 0;
 MemoryLimits& memoryLimits() { return tLimits; }
 std::size_t liveStringBytes() { return tLiveStringBytes; }
 
+const Value& Value::emptyValue()
+{
+    static const Value empty;
+    return empty;
+}
+
+// What a write through a left-out argument lands in: reset to Empty each
+// time it is handed out, so nothing ever reads what was written.
+Value& Value::scratchValue()
+{
+    thread_local Value scratch;
+    scratch = Value();
+    return scratch;
+}
+
 Value Value::string(std::string_view text)
 {
     if (text.empty()) {

@@ -85,11 +85,13 @@ public:
     ArrayRep* asArray() const { return a_; }
     Value* asRef() const { return ref_; }
 
-    // The value itself, or the one a Ref points at.
-    const Value& deref() const { return type_ == Type::Ref ? *ref_ : *this; }
-    Value& deref() { return type_ == Type::Ref ? *ref_ : *this; }
+    // The value itself, or the one a Ref points at (Empty for a left-out argument).
+    const Value& deref() const { return type_ != Type::Ref ? *this : ref_ ? *ref_ : emptyValue(); }
+    Value& deref() { return type_ != Type::Ref ? *this : ref_ ? *ref_ : scratchValue(); }
+    static const Value& emptyValue();
 
 private:
+    static Value& scratchValue();
     static bool counted(Type t) { return t >= Type::String && t <= Type::Array; }
     void retain() const;
     void release();

@@ -119,7 +119,19 @@ INSTANTIATE_TEST_SUITE_P(Statements, Conformance, ::testing::Values(
     Case{"Const x = -1\nMsgBox x\nx = 2", "-1", 501, 3},
     Case{"With Fenetre\n .Caption = \"T\"\n MsgBox .Caption\nEnd With", "T"},
     Case{"Option Explicit\nDim a\na = 1\nMsgBox a\nb = 2", "1", 500, 5},
-    Case{"MsgBox \"a\", vbInformation, \"t\"\nMsgBox(\"b\")\nr = MsgBox(\"c\", vbYesNo)\nMsgBox r", "a|b|c|1"}
+    Case{"MsgBox \"a\", vbInformation, \"t\"\nMsgBox(\"b\")\nr = MsgBox(\"c\", vbYesNo)\nMsgBox r", "a|b|c|1"},
+    Case{"MsgBox (\"a\"), 1\nMsgBox (\"b\") & \"c\"\nMsgBox (1) + 2", "a|bc|3"},
+    Case{"Sub Two(a, b)\n MsgBox a & b\nEnd Sub\nTwo (1), 2\nTwo 3, (4)\nCall Two(5, 6)", "12|34|56"},
+    Case{"MsgBox \"x\", , \"title only\"\nMsgBox InStr(, \"abc\", \"b\")", "x", 5, 2},
+    Case{"MsgBox InStr(1, \"abc\", ) & Mid(\"abc\", 2, )", "1bc"},
+    Case{"x = 1\nMsgBox \"a\" & _\n  \"b\"\ny = 1 / 0", "ab", 11, 4},
+    Case{"If 1 Then If 0 Then MsgBox \"a\" Else MsgBox \"b\"", "b"},
+    Case{"With Fenetre\n .Caption = \"outer\"\n With Bouton1\n  .Caption = \"inner\"\n End With\n MsgBox .Caption & Bouton1.Caption\nEnd With", "outerinner"},
+    Case{"Function Pick(i)\n Select Case i\n  Case 1: Pick = \"one\"\n  Case Else: Pick = \"many\"\n End Select\nEnd Function\nMsgBox Pick(1) & Pick(2)", "onemany"},
+    Case{"Dim t(2)\nSub Fill(arr)\n arr(1) = \"set\"\nEnd Sub\nFill t\nMsgBox t(1)", "set"},
+    Case{"Function MakeArray()\n MakeArray = Array(\"p\", \"q\")\nEnd Function\nMsgBox MakeArray()(1) & UBound(MakeArray())", "q1"},
+    Case{"Do While True\n n = n + 1\n If n > 2 Then Exit Do\nLoop: MsgBox n", "3"},
+    Case{"For i = 1 To 3\n For j = 1 To 3\n  If j = 2 Then Exit For\n  s = s & i & j & \" \"\n Next\nNext\nMsgBox s", "11 21 31 "}
 ));
 
 // Arrays.
