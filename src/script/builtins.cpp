@@ -536,7 +536,7 @@ Value fnRound(Runtime&, Args a)
     double d = n.asDouble();
     if (places == 0)
         return Value::dbl(roundHalfEven(d));
-    if (places > 15)
+    if (places > 15 || std::fabs(d) >= 1e15)
         return n;
     double scale = std::pow(10.0, places);
     double scaled = d * scale;

@@ -191,6 +191,18 @@ Value MemberExpr::eval(Frame& f) const
     return f.rt->getMember(o, name, values.span(), asStatement, objectName);
 }
 
+bool testResuming(const Expr& condition, Frame& f)
+{
+    try {
+        return condition.test(f);
+    } catch (const ScriptError& e) {
+        if (e.fatal)
+            throw;
+        f.rt->recordError(e);
+        return true;
+    }
+}
+
 Flow Block::guarded(const Stmt& s, Frame& f)
 {
     try {

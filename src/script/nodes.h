@@ -394,13 +394,18 @@ struct RaiseStmt final : Stmt {
     Flow exec(Frame&) const override { raise(number, name); }
 };
 
+// Under On Error Resume Next a condition that fails counts as true: the
+// language goes on with the statement after the failing one, which is the
+// first of the Then block.
+bool testResuming(const Expr& condition, Frame& f);
+
 struct IfStmt final : Stmt {
     std::vector<ExprPtr> conditions;
     std::vector<StmtPtr> blocks;  // one per condition, plus the Else block when there is one
     Flow exec(Frame& f) const override
     {
         for (std::size_t i = 0; i < conditions.size(); ++i) {
-            if (conditions[i]->test(f))
+            if (f.resumeNext ? testResuming(*conditions[i], f) : conditions[i]->test(f))
                 return blocks[i]->exec(f);
         }
         if (blocks.size() > conditions.size())

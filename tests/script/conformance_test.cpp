@@ -207,7 +207,8 @@ INSTANTIATE_TEST_SUITE_P(Errors, Conformance, ::testing::Values(
     Case{"Function F(n)\n F = F(n + 1)\nEnd Function\nx = F(1)", "", 28, 2},
     Case{"x = CreateObject(\"Nope.Object\")", "", 429, 1},
     Case{"Bouton1.Picture = LoadPicture(\"absent.bmp\")", "", 481, 1},
-    Case{"On Error Resume Next\nMsgBox 1 / 0\nMsgBox \"next\"", "next"}
+    Case{"On Error Resume Next\nMsgBox 1 / 0\nMsgBox \"next\"", "next"},
+    Case{"On Error Resume Next\nIf 1 / 0 = 1 Then\n MsgBox \"then \" & Err.Number\nElse\n MsgBox \"else\"\nEnd If", "then 11"}
 ));
 
 // Syntax errors stop the whole text before its first statement.
