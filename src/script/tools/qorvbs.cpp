@@ -2,6 +2,9 @@
 //
 //   qorvbs [--max-steps N] FILE.vbs
 //
+// The script stops with error 18 after N loop turns or procedure calls
+// (100 000 000 by default, 0 for no limit).
+//
 // MsgBox writes one line to standard output:
 //   MsgBox: <text> | <title> | <buttons>
 // where every line break of the text is written as "¤", the title is empty
@@ -60,7 +63,8 @@ const char* kHelp =
     "  Une erreur écrit « Erreur <n> : <description> (ligne <l>) » sur la sortie\n"
     "  d'erreur ; le code de sortie est alors 1.\n"
     "\n"
-    "  --max-steps N   arrête le script après N tours de boucle ou appels\n";
+    "  --max-steps N   arrête le script (erreur 18) après N tours de boucle ou\n"
+    "                  appels de procédure ; 100000000 par défaut, 0 pour aucune limite\n";
 
 std::string oneLine(std::string_view text)
 {
@@ -289,7 +293,8 @@ public:
 int main(int argc, char** argv)
 {
     std::string file;
-    std::uint64_t maxSteps = 0;
+    // A runaway loop ends by itself (error 18) instead of hanging the terminal.
+    std::uint64_t maxSteps = 100'000'000;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         if (a == "--help" || a == "-h") {
