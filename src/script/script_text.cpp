@@ -129,7 +129,9 @@ std::string mapText(std::string_view text, F f)
         }
         std::size_t start = pos;
         char32_t c = nextCodePoint(text, pos);
-        char32_t m = f(c);
+        // A stray byte stays as it is: mapping it would change the byte
+        // length, and callers rely on lengths being kept.
+        char32_t m = pos - start == 1 ? c : f(c);
         if (m == c)
             out.append(text.substr(start, pos - start));  // keeps malformed bytes as they were
         else
