@@ -115,7 +115,7 @@ Compiler::Resolved Compiler::resolve(const std::string& name, bool forCall)
         r.builtin = b;
         return r;
     }
-    if (!s.top && s.assigned.count(key) && rt_.exposed.empty()) {
+    if (!s.top && s.assigned.count(key) && rt_.exposed.empty() && !explicit_) {
         // Assigned but never declared in a procedure: a local, as the language makes it.
         Local l;
         l.slot = s.newSlot();
@@ -679,6 +679,8 @@ std::unique_ptr<Chunk> Compiler::compile(Program& program)
 {
     auto chunk = std::make_unique<Chunk>();
     chunk_ = chunk.get();
+    // Under Option Explicit an undeclared name is never a local of its own.
+    explicit_ = program.optionExplicit || rt_.optionExplicit;
     Scope top;
     scope_ = &top;
 

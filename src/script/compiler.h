@@ -93,6 +93,7 @@ private:
     std::unordered_set<std::string> newVariables_;
     // Names the top level of the text assigns: module variables once it has run.
     std::unordered_set<std::string> topAssigned_;
+    bool explicit_ = false;
 };
 
 }  // namespace qor::script

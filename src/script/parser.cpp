@@ -259,6 +259,8 @@ SyntaxPtr Parser::parseStatement(bool singleLine)
     case Kw::On:
         return parseOnError();
     case Kw::Option: {
+        if (procKind_ != 0)
+            fail(errc::SyntaxError);
         auto n = node(Syn::OptionExplicit);
         advance();
         if (!isWord("explicit"))

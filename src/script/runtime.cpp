@@ -457,11 +457,8 @@ HostResult ErrObject::callMethod(std::string_view name, Args args)
             return HostResult::fail(errc::WrongArguments);
         try {
             std::int32_t n = toLong(args[0]);
-            if (n <= 0 || n > 65535) {
-                // Numbers above 65535 are object errors (vbObjectError + n): allowed.
-                if (n <= 0)
-                    return HostResult::fail(errc::InvalidCall);
-            }
+            if (n == 0)  // negative numbers are object errors (vbObjectError + n)
+                return HostResult::fail(errc::InvalidCall);
             ScriptError e;
             e.number = n;
             e.source = args.size() > 1 && !args[1].isEmpty() ? toText(args[1]) : kRuntimeSource;

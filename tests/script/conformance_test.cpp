@@ -128,6 +128,9 @@ INSTANTIATE_TEST_SUITE_P(Statements, Conformance, ::testing::Values(
     Case{"If 1 Then If 0 Then MsgBox \"a\" Else MsgBox \"b\"", "b"},
     Case{"With Fenetre\n .Caption = \"outer\"\n With Bouton1\n  .Caption = \"inner\"\n End With\n MsgBox .Caption & Bouton1.Caption\nEnd With", "outerinner"},
     Case{"Function Pick(i)\n Select Case i\n  Case 1: Pick = \"one\"\n  Case Else: Pick = \"many\"\n End Select\nEnd Function\nMsgBox Pick(1) & Pick(2)", "onemany"},
+    Case{"Sub AddOne(ByRef n)\n n = n + 1\nEnd Sub\nSub Twice(ByRef n)\n AddOne n\n AddOne n\nEnd Sub\nk = 5\nTwice k\nMsgBox k", "7"},
+    Case{"Sub Change(x)\n x = \"changed\"\nEnd Sub\nDim a(1)\na(0) = \"kept\"\nChange a(0)\nChange Fenetre.Caption\nMsgBox a(0) & IsEmpty(Fenetre.Caption)", "keptTrue"},
+    Case{"Function Echo(ByVal s)\n s = s & \"!\"\n Echo = s\nEnd Function\nt = \"hi\"\nMsgBox Echo(t) & t", "hi!hi"},
     Case{"Dim t(2)\nSub Fill(arr)\n arr(1) = \"set\"\nEnd Sub\nFill t\nMsgBox t(1)", "set"},
     Case{"Function MakeArray()\n MakeArray = Array(\"p\", \"q\")\nEnd Function\nMsgBox MakeArray()(1) & UBound(MakeArray())", "q1"},
     Case{"Do While True\n n = n + 1\n If n > 2 Then Exit Do\nLoop: MsgBox n", "3"},
@@ -187,7 +190,17 @@ INSTANTIATE_TEST_SUITE_P(Functions, Conformance, ::testing::Values(
     Case{"MsgBox Len(vbCr & vbLf & vbTab & vbNewLine & vbNullString)", "5"},
     Case{"MsgBox vbOKOnly & vbOKCancel & vbYesNoCancel & vbYesNo & vbCritical & vbQuestion & vbExclamation & vbInformation", "013416324864"},
     Case{"MsgBox vbOK & vbCancel & vbYes & vbNo & vbAbort & vbRetry & vbIgnore", "1267345"},
-    Case{"MsgBox Len()", "", 450, 1}
+    Case{"MsgBox Len()", "", 450, 1},
+    Case{"MsgBox Chr(140) & Chr(156) & Chr(146) & Asc(\"Œ\") & Asc(\"’\") & AscW(\"€\") & ChrW(8364)", "Œœ’1401468364€"},
+    Case{"MsgBox Join(Split(\"aXbxc\", \"x\", -1, 1), \"-\") & \" \" & Join(Split(\"aXbxc\", \"x\"), \"-\") & \" \" & UBound(Split(\"a,,b\", \",\"))", "a-b-c aXb-c 2"},
+    Case{"MsgBox Replace(\"abcabc\", \"b\", \"\") & \" \" & Replace(\"abc\", \"\", \"x\") & \" \" & Replace(\"abcabc\", \"a\", \"A\", 3) & \" \" & Replace(\"aaa\", \"a\", \"b\", 1, 1)", "acac abc cAbc baa"},
+    Case{"MsgBox CStr(CDate(\"23/11/2026\")) & \" \" & TypeName(CDate(\"1/2/2003 10:20:30\")) & \" \" & CDate(\"1/2/2003 10:20:30\")", "23/11/2026 Date 01/02/2003 10:20:30"},
+    Case{"d = CDate(\"28/02/2024\") + 1\nMsgBox d & \" \" & Day(d) & \" \" & TypeName(d) & \" \" & (CDate(\"2/3/2024\") - CDate(\"1/3/2024\"))", "29/02/2024 29 Date 1"},
+    Case{"MsgBox Hex(-2147483648) & \" \" & Hex(-70000) & \" \" & Hex(2.5) & \" \" & Oct(\"64\")", "80000000 FFFEEE90 2 100"},
+    Case{"MsgBox Mid(\"abc\", 2, 0) & \"|\" & Left(\"\", 3) & \"|\" & Right(\"abc\", 0) & \"|\" & InStrRev(\"abc\", \"c\", 2)", "|||0"},
+    Case{"MsgBox Left(\"abc\", -1)", "", 5, 1},
+    Case{"MsgBox UCase(Null) & LCase(Empty) & Len(Null) & Trim(Null)", ""},
+    Case{"MsgBox IsNull(UCase(Null)) & IsNull(Len(Null)) & IsNull(Mid(Null, 1))", "TrueTrueTrue"}
 ));
 
 // Errors: Err, On Error, Raise, and the line a run-time error stops at.
@@ -208,6 +221,11 @@ INSTANTIATE_TEST_SUITE_P(Errors, Conformance, ::testing::Values(
     Case{"x = CreateObject(\"Nope.Object\")", "", 429, 1},
     Case{"Bouton1.Picture = LoadPicture(\"absent.bmp\")", "", 481, 1},
     Case{"On Error Resume Next\nMsgBox 1 / 0\nMsgBox \"next\"", "next"},
+    Case{"Err.Number = 5\nMsgBox Err.Number & \" \" & Err\nErr.Raise vbObjectError + 1", "5 5", -2147221503, 3},
+    Case{"On Error Resume Next\nErr.Raise 9\nMsgBox Err.Description\nErr.Raise 0\nMsgBox Err.Number", "Indice en dehors de la plage|5"},
+    Case{"Function Safe()\n On Error Resume Next\n Safe = 1 / 0\n Exit Function\nEnd Function\nx = Safe()\nMsgBox Err.Number & IsEmpty(x)", "0True"},
+    Case{"Sub S()\n Option Explicit\nEnd Sub", "", 1002, 2},
+    Case{"Option Explicit\nSub S()\n Dim a\n a = 1\n b = 2\nEnd Sub\nS", "", 500, 5},
     Case{"On Error Resume Next\nIf 1 / 0 = 1 Then\n MsgBox \"then \" & Err.Number\nElse\n MsgBox \"else\"\nEnd If", "then 11"}
 ));
 
