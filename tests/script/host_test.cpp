@@ -325,3 +325,68 @@ TEST(HostServices, ForEachWalksAHostCollection)
 
 }  // namespace
 }  // namespace qor::script::test
+
+namespace qor::script::test {
+namespace {
+
+TEST(HostObjects, LetTakesTheDefaultValueAndSetKeepsTheObject)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    std::vector<std::string> log;
+    Ref<FakeObject> window(new FakeObject("Fenetre", &log));
+    window->anyProperty = true;
+    module.addObject("Fenetre", window);
+    RunResult r = module.addCode("On Error Resume Next\r\nErr.Raise 7\r\nn = Err\r\nSet e = Err\r\nErr.Clear\r\n"
+                                 "MsgBox n & \" \" & TypeName(n) & \" \" & TypeName(e) & \" \" & e.Number\r\n"
+                                 "Set Fenetre.Icon = Fenetre\r\nMsgBox TypeName(Fenetre.Icon)");
+    ASSERT_TRUE(r.ok()) << r.error->description;
+    EXPECT_EQ(host.output(), "7 Long ErrObject 0|Fenetre");
+    EXPECT_EQ(log, (std::vector<std::string>{"Fenetre.Icon=Fenetre"}));
+}
+
+TEST(HostObjects, SetNeedsAnObject)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    Ref<FakeObject> window(new FakeObject("Fenetre", nullptr));
+    window->anyProperty = true;
+    module.addObject("Fenetre", window);
+    RunResult r = module.addCode("Set Fenetre.Icon = 3");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 424);
+}
+
+TEST(HostObjects, NamedObjectsCannotBeAssigned)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    module.addObject("Fenetre", Ref<FakeObject>(new FakeObject("Fenetre", nullptr)));
+    RunResult r = module.addCode("Fenetre = 3");
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 501);
+    EXPECT_EQ(r.error->description, "Affectation impossible : 'Fenetre'");
+}
+
+TEST(TranslationScript, ProceduresReachExposedMembersToo)
+{
+    TranslatedWindow w;
+    RunResult r = w.module.addCode("Sub Traduire(texte)\r\n  Caption = texte\r\n  Command1.Caption = UCase(texte)\r\nEnd Sub\r\n"
+                                   "Traduire \"Menu\"\r\nWith Form2.Label1\r\n  .Caption = Caption & \"!\"\r\nEnd With");
+    ASSERT_TRUE(r.ok()) << r.error->description;
+    EXPECT_EQ(toText(w.form->property("Caption")), "Menu");
+    EXPECT_EQ(toText(w.command1->property("Caption")), "MENU");
+    EXPECT_EQ(toText(w.label1->property("Caption")), "Menu!");
+}
+
+TEST(TranslationScript, VariablesOfTheScriptStayVariables)
+{
+    TranslatedWindow w;
+    RunResult r = w.module.addCode("t = \"Ouvrir\"\r\nCommand1.Caption = t & \"...\"\r\nt = 5\r\nMsgBox t + 1");
+    ASSERT_TRUE(r.ok()) << r.error->description;
+    EXPECT_EQ(toText(w.command1->property("Caption")), "Ouvrir...");
+    EXPECT_EQ(w.host.output(), "6");
+}
+
+}  // namespace
+}  // namespace qor::script::test

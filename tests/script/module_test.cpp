@@ -262,3 +262,70 @@ TEST(Safety, StringsAndArraysAreFreedAfterRuns)
 
 }  // namespace
 }  // namespace qor::script::test
+
+namespace qor::script::test {
+namespace {
+
+// A host whose message box runs more script in the same module, as a menu
+// player does when its timer fires while a message is shown.
+class ReentrantHost : public FakeScriptHost {
+public:
+    Module* module = nullptr;
+    std::vector<std::string> inner;
+    int msgBox(const MsgBoxRequest& r) override
+    {
+        if (r.prompt == "outer") {
+            RunResult a = module->addCode("ticks = ticks + 1\r\nMsgBox \"inner \" & ticks");
+            RunResult b = module->eval("Twice(ticks)");
+            inner.push_back(a.ok() && b.ok() ? toText(b.value) : "error");
+        }
+        return FakeScriptHost::msgBox(r);
+    }
+};
+
+TEST(ModuleModel, ScriptsCanRunWhileAnotherWaitsOnAMessage)
+{
+    ReentrantHost host;
+    Module module(&host);
+    host.module = &module;
+    ASSERT_TRUE(module.addCode("Function Twice(v)\r\n  Twice = 2 * v\r\nEnd Function\r\nticks = 10").ok());
+    RunResult r = module.addCode("Sub Show(n)\r\n  Dim local\r\n  local = n\r\n  MsgBox \"outer\"\r\n  MsgBox \"after \" & local & \" \" & ticks\r\nEnd Sub\r\nShow 7");
+    ASSERT_TRUE(r.ok()) << r.error->description;
+    EXPECT_EQ(host.inner, (std::vector<std::string>{"22"}));
+    EXPECT_EQ(host.output(), "inner 11|outer|after 7 11");
+}
+
+TEST(ModuleModel, ExecuteStatementRunsInTheModule)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    ASSERT_TRUE(module.addCode("Dim total\r\nSub Add(n)\r\n  total = total + n\r\nEnd Sub").ok());
+    ASSERT_TRUE(module.executeStatement("Add 2 : Add 3").ok());
+    EXPECT_EQ(toText(module.eval("total").value), "5");
+}
+
+TEST(ModuleModel, ForCountersPromoteLikeAdditions)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    ASSERT_TRUE(module.addCode("For i = 32766 To 32768\r\n  s = s & TypeName(i) & \" \"\r\nNext\r\nMsgBox s & TypeName(i)").ok());
+    EXPECT_EQ(host.output(), "Integer Integer Long Long");
+}
+
+TEST(Safety, TheBudgetAlsoCountsProcedureCalls)
+{
+    Module module;
+    module.setStepBudget(50);
+    ASSERT_TRUE(module.addCode("Function F(n)\r\n  F = n\r\nEnd Function").ok());
+    RunResult r = module.addCode("x = F(1) + F(2) + F(3)");
+    EXPECT_TRUE(r.ok());
+    std::string many;
+    for (int i = 0; i < 60; ++i)
+        many += "x = F(" + std::to_string(i) + ")\r\n";
+    r = module.addCode(many);
+    ASSERT_FALSE(r.ok());
+    EXPECT_EQ(r.error->number, 18);
+}
+
+}  // namespace
+}  // namespace qor::script::test
