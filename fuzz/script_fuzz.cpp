@@ -75,8 +75,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const bool limited = [] {
         MemoryLimits& m = memoryLimits();
-        m.maxStringBytes = 64 << 10;
-        m.maxLiveStringBytes = 16 << 20;
+        // Small enough that a loop working on a growing text (quadratic by
+        // nature) stays well inside the per-input time limit.
+        m.maxStringBytes = 16 << 10;
+        m.maxLiveStringBytes = 8 << 20;
         m.maxArrayItems = 4096;
         return true;
     }();
@@ -85,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzHost host;
     {
         Module module(&host);
-        module.setStepBudget(20000);
+        module.setStepBudget(2000);
         module.addObject("Fenetre", makeRef<AnyObject>());
         module.addObject("Form2", makeRef<AnyObject>(), true);
         RunResult r = module.addCode(text);

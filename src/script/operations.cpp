@@ -1,5 +1,6 @@
 #include "script/operations.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -191,39 +192,59 @@ std::optional<double> parseNumeric(std::string_view text)
         double r = v <= 0xFFFF ? double(std::int16_t(v)) : double(std::int32_t(std::uint32_t(v)));
         return negative ? -r : r;
     }
-    std::string digits;
+    // Validate in place, then convert the span at once: long numeric texts
+    // are read in linear time.
+    std::size_t begin = i;
     bool any = false;
     while (i < n && text[i] >= '0' && text[i] <= '9') {
-        digits += text[i++];
+        ++i;
         any = true;
     }
     if (i < n && text[i] == '.') {
-        digits += text[i++];
+        ++i;
         while (i < n && text[i] >= '0' && text[i] <= '9') {
-            digits += text[i++];
+            ++i;
             any = true;
         }
     }
     if (!any)
         return std::nullopt;
+    bool otherExponent = false;
     if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        otherExponent = text[i] == 'd' || text[i] == 'D';
         std::size_t j = i + 1;
-        std::string exp = "e";
         if (j < n && (text[j] == '+' || text[j] == '-'))
-            exp += text[j++];
+            ++j;
         bool expDigits = false;
         while (j < n && text[j] >= '0' && text[j] <= '9') {
-            exp += text[j++];
+            ++j;
             expDigits = true;
         }
         if (!expDigits)
             return std::nullopt;
-        digits += exp;
         i = j;
     }
     if (i != n)
         return std::nullopt;
-    double d = std::strtod(digits.c_str(), nullptr);
+    // Leading zeros change nothing but cost the converter dearly on long texts.
+    while (begin + 1 < n && text[begin] == '0' && text[begin + 1] >= '0' && text[begin + 1] <= '9')
+        ++begin;
+    std::string_view number = text.substr(begin, n - begin);
+    double d = 0;
+    std::from_chars_result r;
+    if (otherExponent) {
+        std::string copy(number);
+        for (char& c : copy)
+            if (c == 'd' || c == 'D')
+                c = 'e';
+        r = std::from_chars(copy.data(), copy.data() + copy.size(), d);
+        if (r.ec != std::errc())
+            return std::nullopt;
+    } else {
+        r = std::from_chars(number.data(), number.data() + number.size(), d);
+        if (r.ec != std::errc())
+            return std::nullopt;
+    }
     if (!std::isfinite(d))
         return std::nullopt;
     return negative ? -d : d;
