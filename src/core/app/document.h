@@ -43,6 +43,10 @@ public:
     // Quitting: the author fields and the text fields of every button slot
     // emptied, and the project's file forgotten.
     virtual void clearForQuit() = 0;
+
+    // Start-up gave the worksheet its first size (twips): the project's
+    // window takes it, so that a new project is saved at the size shown.
+    virtual void setWindowSize(double width, double height) = 0;
 };
 
 }  // namespace qor

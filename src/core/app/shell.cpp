@@ -83,6 +83,8 @@ StartOutcome Shell::start(const StartupInputs& inputs)
     sizes.properties = view_.windowSize(WindowId::PropertiesPanel);
     sizes.mousePosition = view_.windowSize(WindowId::MousePosition);
     view_.arrangeWindows(arrangeWindows(sizes, screen, state_.defaultMenuSize));
+    // The model holds the window size from here on; a reset keeps it.
+    document_.setWindowSize(state_.defaultMenuSize.width, state_.defaultMenuSize.height);
 
     writeFirstRunFiles();
 

@@ -224,4 +224,10 @@ void DocumentLifecycle::clearForQuit()
     project_.filePath.clear();
 }
 
+void DocumentLifecycle::setWindowSize(double width, double height)
+{
+    project_.width = float(width);
+    project_.height = float(height);
+}
+
 }  // namespace qor

@@ -64,6 +64,7 @@ public:
     void showFileInfo() override;
     void openPath(const std::string& path) override;
     void clearForQuit() override;
+    void setWindowSize(double width, double height) override;
 
     // Files dropped on the worksheet's background: ask, then open the last one.
     void openDropped(const std::vector<std::string>& paths);

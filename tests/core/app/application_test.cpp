@@ -63,6 +63,17 @@ TEST_F(ApplicationFixture, FromTheCommandLineToTheRecentFilesList)
     EXPECT_EQ(documentView.shown, 1);
 }
 
+TEST_F(ApplicationFixture, ANewProjectHasTheWorksheetsFirstSizeAndKeepsIt)
+{
+    ASSERT_EQ(app.shell().start({dir.file("qor"), "", {}}), StartOutcome::Running);
+    EXPECT_EQ(app.project().width, 12000);
+    EXPECT_EQ(app.project().height, 9000);
+    dialogs.messageAnswers = {Answer::No};
+    app.shell().run(CommandId::NewBlank);
+    EXPECT_EQ(app.project().width, 12000);
+    EXPECT_EQ(app.project().height, 9000);
+}
+
 TEST_F(ApplicationFixture, OpeningAQmbFileTellsThatItsSupportIsMissing)
 {
     ASSERT_EQ(app.shell().start({dir.file("qor"), "", {}}), StartOutcome::Running);

@@ -46,6 +46,9 @@ public:
     void showFileInfo() override { calls.push_back("showFileInfo"); }
     void openPath(const std::string& p) override { calls.push_back("openPath " + p); }
     void clearForQuit() override { calls.push_back("clearForQuit"); }
+    // Kept apart from the commands: every start sets it.
+    TwipsSize windowSize;
+    void setWindowSize(double w, double h) override { windowSize = {w, h}; }
 };
 
 struct ShellFixture : ::testing::Test {
@@ -139,6 +142,8 @@ TEST_F(ShellFixture, ScreenWidthDecidesTheMenuSizeOr640Refuses)
             ASSERT_EQ(v.arrangements.size(), 1u);
             EXPECT_EQ(v.arrangements[0].worksheetSize, c.size) << c.widthPixels;
             EXPECT_EQ(sh.state().defaultMenuSize, c.size);
+            // The project's window is the worksheet's size, not the model's own default.
+            EXPECT_EQ(document.windowSize, c.size) << c.widthPixels;
         }
     }
 }
