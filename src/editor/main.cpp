@@ -4,21 +4,22 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include "core/app/commands.h"
-#include "editor/app/editor_windows.h"
-#include "editor/app/main_window.h"
-#include "editor/designer/properties_panel.h"
-#include "editor/designer/toolbox_window.h"
-#include "editor/designer/worksheet_window.h"
-#include "editor/ui/mouse_position_window.h"
+#include "core/ports/qmb_converter.h"
+#include "editor/app/editor_application.h"
+#include "editor/platform/desktop_file_type_registry.h"
+#include "editor/platform/qt_desktop.h"
+#include "editor/platform/qt_dialogs.h"
 #include "editor/platform/qt_screen.h"
-#include "editor/ui/splash_window.h"
+#include "editor/platform/qt_settings_store.h"
 
 int main(int argc, char** argv)
 {
+    // Qt takes its own options (-style, -platform ...) out of argv here.
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("QOR"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/qor/qor.png")));
+    // The shell ends the run itself, once the quit flow has agreed.
+    QApplication::setQuitOnLastWindowClosed(false);
 
     // The interface is French: so are Qt's own dialogs and buttons.
     QTranslator qtFrench;
@@ -26,37 +27,16 @@ int main(int argc, char** argv)
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&qtFrench);
 
+    qor::QtDialogs dialogs;
+    qor::QtSettingsStore settings;
+    qor::QtDesktop desktop;
     qor::QtScreen screen;
-    const qor::ScreenMetrics m = screen.metrics();
-    qor::EditorWindows windows(m);
-    windows.showSplash();
-    windows.load();
-    // Provisional: the shell's start-up routine takes this over, with its
-    // own arithmetic and the default menu size, when it is wired in. Until
-    // then the windows stand around the screen centre instead of on top of
-    // one another.
-    {
-        const auto tool = windows.placeOf(windows.toolbox());
-        const auto main = windows.placeOf(windows.main());
-        const auto sheet = windows.placeOf(windows.worksheet());
-        const double top = (m.heightTwips - sheet.height) / 2;
-        const double left = (m.widthTwips - (sheet.width + 200 + tool.width)) / 2;
-        windows.place(windows.worksheet(), {left, top, sheet.width, sheet.height});
-        windows.place(windows.toolbox(), {left + sheet.width + 200, top, tool.width, tool.height});
-        windows.place(windows.main(), {(m.widthTwips - main.width) / 2, top - main.height - 600, main.width, main.height});
-        const double panelTop = top + tool.height + 600;
-        windows.place(windows.properties(), {left + sheet.width + 200, panelTop, qor::PropertiesPanel::kWidth,
-                                             m.heightTwips - panelTop - 500});
-        const auto mouse = windows.placeOf(windows.mousePosition());
-        windows.place(windows.mousePosition(), {(m.widthTwips + main.width) / 2 + 500, top - main.height - 600,
-                                                mouse.width, mouse.height});
-    }
-    // Until the application shell takes the commands over there is no
-    // project to save, so quitting has nothing to ask.
-    windows.main().setCommandHandler([&windows](qor::CommandId id, int) {
-        if (id == qor::CommandId::Quit)
-            windows.closeAll();
-    });
-    windows.showAll();
+    qor::DesktopFileTypeRegistry fileTypes;
+    qor::MissingQmbConverter qmbConverter;
+    qor::EditorApplication editor({dialogs, settings, desktop, screen, fileTypes, qmbConverter});
+
+    const auto inputs = qor::startupInputs(argc, argv, QDateTime::currentDateTime());
+    if (editor.start(inputs) == qor::StartOutcome::Quit)
+        return 0;
     return app.exec();
 }

@@ -46,6 +46,7 @@ private slots:
     void settingsKeysIgnoreLetterCase();
     void settingsGeneralIsTheFilesGeneralSection();
     void settingsThatCannotBeWritten();
+    void settingsReachTheDiskTogether();
 
     void textEditorChoice_data();
     void textEditorChoice();
@@ -302,6 +303,9 @@ void TestPlatform::settingsRoundTrip()
     QVERIFY(store.save("QOR", "Manuel", "Chemin", "/home/é/manuel/"));
     QVERIFY(store.save("QOR", "FichiersRecents", "Fichier1", "/a b/c.qor"));
     QVERIFY(store.save("QOR", "Manuel", "FoisDem", "2"));
+    // Read back before they reach the disk.
+    QCOMPARE(store.get("QOR", "Manuel", "FoisDem", ""), std::string("2"));
+    QVERIFY(store.flush());
     // A second store on the same folder (the next start) reads them back.
     QtSettingsStore later(dir.path());
     QCOMPARE(later.get("QOR", "Manuel", "Chemin", ""), std::string("/home/é/manuel/"));
@@ -328,6 +332,7 @@ void TestPlatform::settingsKeysIgnoreLetterCase()
     QCOMPARE(store.get("QOR", "General", "Langue", "x"), std::string());
     QVERIFY(store.save("QOR", "manuel", "chemin", "/m/"));
     QCOMPARE(store.get("QOR", "Manuel", "Chemin", ""), std::string("/m/"));
+    QVERIFY(store.flush());
     QSettings raw(store.fileName("QOR"), QSettings::IniFormat);
     QCOMPARE(raw.childKeys(), QStringList{"Langue"});
 }
@@ -338,6 +343,7 @@ void TestPlatform::settingsGeneralIsTheFilesGeneralSection()
     QtSettingsStore store(dir.path());
     QVERIFY(store.save("QOR", "General", "Version", "2.0"));
     QVERIFY(store.save("QOR", "Manuel", "FoisDem", "1"));
+    QVERIFY(store.flush());
     QFile file(store.fileName("QOR"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(file.readAll());
@@ -353,6 +359,24 @@ void TestPlatform::settingsThatCannotBeWritten()
     QtSettingsStore store(dir.path());
     QVERIFY(!store.save("QOR", "Manuel", "Chemin", "/m/"));
     QCOMPARE(store.get("QOR", "Manuel", "Chemin", "défaut"), std::string("défaut"));
+}
+
+void TestPlatform::settingsReachTheDiskTogether()
+{
+    QTemporaryDir dir;
+    const QString file = QDir(dir.path()).filePath("QOR.ini");
+    {
+        QtSettingsStore store(dir.path());
+        QVERIFY(store.save("QOR", "General", "DernHeure", "10:00:00"));
+        QVERIFY(store.save("QOR", "General", "DernDate", "23/11/2026"));
+        // One write for the burst, a moment later.
+        QVERIFY(!QFile::exists(file));
+        QTRY_VERIFY(QFile::exists(file));
+        QCOMPARE(QtSettingsStore(dir.path()).get("QOR", "General", "DernDate", ""), std::string("23/11/2026"));
+        // A value saved just before the store goes is not lost.
+        QVERIFY(store.save("QOR", "Manuel", "FoisDem", "3"));
+    }
+    QCOMPARE(QtSettingsStore(dir.path()).get("QOR", "Manuel", "FoisDem", ""), std::string("3"));
 }
 
 // ---- desktop ---------------------------------------------------------------

@@ -1,11 +1,13 @@
 #include "editor/app/editor_windows.h"
 
 #include <QCoreApplication>
+#include <QWindow>
 
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/toolbox_window.h"
 #include "editor/designer/worksheet_window.h"
+#include "editor/project/file_info_window.h"
 #include "editor/scripting/script_editor_window.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor/ui/splash_window.h"
@@ -38,16 +40,78 @@ void EditorWindows::showSplash()
     QCoreApplication::processEvents();
 }
 
+void EditorWindows::loadWindow(WindowId id)
+{
+    if (isLoaded(id))
+        return;
+    switch (id) {
+    case WindowId::Toolbox: toolbox_ = create<ToolboxWindow>(screen_, hooks_); break;
+    case WindowId::Main: main_ = create<MainWindow>(screen_, hooks_); break;
+    case WindowId::Worksheet: worksheet_ = create<WorksheetWindow>(screen_, hooks_); break;
+    case WindowId::PropertiesPanel: properties_ = create<PropertiesPanel>(screen_, hooks_); break;
+    case WindowId::ScriptEditor:
+        // Built when a script is first opened in it.
+        scriptEditorLoaded_ = true;
+        loadOrder_ << QStringLiteral("Form5");
+        break;
+    case WindowId::MousePosition: mousePosition_ = create<MousePositionWindow>(hooks_); break;
+    case WindowId::FileInfo: fileInfo(); break;
+    case WindowId::Splash: break;
+    }
+}
+
+bool EditorWindows::isLoaded(WindowId id) const
+{
+    switch (id) {
+    case WindowId::Toolbox: return toolbox_ != nullptr;
+    case WindowId::Main: return main_ != nullptr;
+    case WindowId::Worksheet: return worksheet_ != nullptr;
+    case WindowId::PropertiesPanel: return properties_ != nullptr;
+    case WindowId::ScriptEditor: return scriptEditorLoaded_;
+    case WindowId::MousePosition: return mousePosition_ != nullptr;
+    case WindowId::FileInfo: return fileInfo_ != nullptr;
+    case WindowId::Splash: return true;
+    }
+    return false;
+}
+
 void EditorWindows::load()
 {
-    if (loaded())
-        return;
-    toolbox_ = create<ToolboxWindow>(screen_, hooks_);
-    main_ = create<MainWindow>(screen_, hooks_);
-    worksheet_ = create<WorksheetWindow>(screen_, hooks_);
-    properties_ = create<PropertiesPanel>(screen_, hooks_);
-    scriptEditor_ = create<ScriptEditorWindow>(screen_, hooks_);
-    mousePosition_ = create<MousePositionWindow>(hooks_);
+    for (WindowId id : kStartupLoadOrder)
+        loadWindow(id);
+}
+
+QWidget* EditorWindows::window(WindowId id)
+{
+    if (!isLoaded(id))
+        return nullptr;
+    switch (id) {
+    case WindowId::Toolbox: return toolbox_.get();
+    case WindowId::Main: return main_.get();
+    case WindowId::Worksheet: return worksheet_.get();
+    case WindowId::PropertiesPanel: return properties_.get();
+    case WindowId::ScriptEditor: return &scriptEditor();
+    case WindowId::MousePosition: return mousePosition_.get();
+    case WindowId::FileInfo: return fileInfo_.get();
+    case WindowId::Splash: return splash_.get();
+    }
+    return nullptr;
+}
+
+ScriptEditorWindow& EditorWindows::scriptEditor()
+{
+    if (!scriptEditor_) {
+        scriptEditorLoaded_ = true;
+        scriptEditor_ = std::make_unique<ScriptEditorWindow>(screen_, hooks_);
+    }
+    return *scriptEditor_;
+}
+
+FileInfoWindow& EditorWindows::fileInfo()
+{
+    if (!fileInfo_)
+        fileInfo_ = std::make_unique<FileInfoWindow>(hooks_, main_.get());
+    return *fileInfo_;
 }
 
 void EditorWindows::showAll()
@@ -60,23 +124,32 @@ void EditorWindows::showAll()
     splash_->hide();
 }
 
+void EditorWindows::hideAll()
+{
+    QWidget* windows[] = {splash_.get(), fileInfo_.get(), toolbox_.get(), worksheet_.get(), properties_.get(),
+                          scriptEditor_.get(), mousePosition_.get(), main_.get()};
+    for (QWidget* w : windows)
+        if (w)
+            w->hide();
+}
+
 void EditorWindows::closeAll()
 {
+    hideAll();
     if (!loaded()) {
         splash_->close();
         return;
     }
-    QWidget* windows[] = {splash_.get(), toolbox_.get(), worksheet_.get(), properties_.get(),
-                          scriptEditor_.get(), mousePosition_.get(), main_.get()};
-    for (QWidget* w : windows)
-        w->hide();
     toolbox_->releaseForQuit();
     worksheet_->releaseForQuit();
     properties_->releaseForQuit();
     mousePosition_->releaseForQuit();
     main_->releaseForQuit();
+    QWidget* windows[] = {splash_.get(), fileInfo_.get(), toolbox_.get(), worksheet_.get(), properties_.get(),
+                          scriptEditor_.get(), mousePosition_.get(), main_.get()};
     for (QWidget* w : windows)
-        w->close();
+        if (w)
+            w->close();
 }
 
 void EditorWindows::place(QWidget& window, const TwipsRect& rect)
@@ -87,6 +160,46 @@ void EditorWindows::place(QWidget& window, const TwipsRect& rect)
 TwipsRect EditorWindows::placeOf(const QWidget& window) const
 {
     return geometryTwips(window, screen_);
+}
+
+QMargins EditorWindows::frameOf(const QWidget& window) const
+{
+    if (const QWindow* handle = window.windowHandle(); handle && handle->handle()) {
+        const QMargins drawn = handle->frameMargins();
+        if (!drawn.isNull())
+            return drawn;
+    }
+    const int side = twipsToPixels(kAssumedBorder, screen_.twipsPerPixelX);
+    const int bottom = twipsToPixels(kAssumedBorder, screen_.twipsPerPixelY);
+    const int top = twipsToPixels(kAssumedCaption, screen_.twipsPerPixelY);
+    return {side, top, side, bottom};
+}
+
+TwipsSize EditorWindows::outerSize(const QWidget& window) const
+{
+    const QMargins f = frameOf(window);
+    return {(window.width() + f.left() + f.right()) * screen_.twipsPerPixelX,
+            (window.height() + f.top() + f.bottom()) * screen_.twipsPerPixelY};
+}
+
+void EditorWindows::setOuterSize(QWidget& window, double width, double height)
+{
+    const QMargins f = frameOf(window);
+    const int w = twipsToPixels(width, screen_.twipsPerPixelX) - f.left() - f.right();
+    const int h = twipsToPixels(height, screen_.twipsPerPixelY) - f.top() - f.bottom();
+    window.resize(std::max(1, w), std::max(1, h));
+}
+
+void EditorWindows::setOuterHeight(QWidget& window, double height)
+{
+    const QMargins f = frameOf(window);
+    const int h = twipsToPixels(height, screen_.twipsPerPixelY) - f.top() - f.bottom();
+    window.resize(window.width(), std::max(1, h));
+}
+
+void EditorWindows::moveTo(QWidget& window, double left, double top)
+{
+    window.move(twipsToPixels(left, screen_.twipsPerPixelX), twipsToPixels(top, screen_.twipsPerPixelY));
 }
 
 }  // namespace qor

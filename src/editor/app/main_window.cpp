@@ -50,7 +50,8 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
         const QKeySequence key = QKeySequence::mnemonic(toQt(tree[std::size_t(i)].caption));
         if (!key.isEmpty()) {
             auto* shortcut = new QShortcut(key, this);
-            connect(shortcut, &QShortcut::activated, this, [this, i] { popUpMenu(i); });
+            // A press on the title, whoever handles the titles.
+            connect(shortcut, &QShortcut::activated, this, [this, i] { emit menuTitlePressed(i); });
         }
     }
 

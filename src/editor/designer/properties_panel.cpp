@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QScrollBar>
 
+#include "core/designer/element_selector.h"
+#include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 
 namespace qor {
@@ -21,6 +23,18 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     scroll_->setMaximum(0);
     setFixedWidth(twipsToPixels(kWidth, screen.twipsPerPixelX));
     runLoadHooks(*this, hooks);
+}
+
+void PropertiesPanel::resetElementSelector()
+{
+    selector_->clear();
+    selector_->addItem(toQt(kWorksheetEntry));
+    selector_->setCurrentIndex(0);
+}
+
+void PropertiesPanel::addElementEntry(const std::string& entry)
+{
+    selector_->addItem(toQt(entry));
 }
 
 bool PropertiesPanel::event(QEvent* event)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/ports/screen.h"
 #include "editor/ui/tool_window.h"
 #include "editor/ui/window_hooks.h"
@@ -21,6 +23,10 @@ public:
     explicit PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks = WindowHooks::none());
 
     QComboBox* elementSelector() const { return selector_; }
+    // The selector back to its single entry "Feuille de travail", selected.
+    void resetElementSelector();
+    // An element's entry at the end of the selector.
+    void addElementEntry(const std::string& entry);
     QScrollBar* scrollBar() const { return scroll_; }
     QWidget* contentArea() const { return content_; }
 

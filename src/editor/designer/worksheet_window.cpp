@@ -20,6 +20,19 @@ WorksheetWindow::WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks
     runLoadHooks(*this, hooks);
 }
 
+void WorksheetWindow::setBackgroundColour(const QColor& colour)
+{
+    QPalette p = palette();
+    p.setColor(QPalette::Window, colour);
+    setPalette(p);
+    setAutoFillBackground(true);
+}
+
+QColor WorksheetWindow::backgroundColour() const
+{
+    return palette().color(QPalette::Window);
+}
+
 void WorksheetWindow::resizeEvent(QResizeEvent* event)
 {
     ToolWindow::resizeEvent(event);

@@ -4,6 +4,7 @@
 #include "editor/ui/tool_window.h"
 #include "editor/ui/window_hooks.h"
 
+class QColor;
 class QLabel;
 
 namespace qor {
@@ -21,11 +22,22 @@ public:
 
     QLabel* background() const { return background_; }
 
+    // The menu window's background colour, behind its picture.
+    void setBackgroundColour(const QColor& colour);
+    QColor backgroundColour() const;
+
+    // Whether the selected element shows its handles (the option "Afficher
+    // les points délimitant les objets"); the elements read it when they
+    // are selected.
+    void setSelectionHandlesVisible(bool visible) { handlesVisible_ = visible; }
+    bool selectionHandlesVisible() const { return handlesVisible_; }
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QLabel* background_ = nullptr;
+    bool handlesVisible_ = true;
 };
 
 }  // namespace qor

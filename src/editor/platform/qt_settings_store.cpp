@@ -1,7 +1,9 @@
 #include "editor/platform/qt_settings_store.h"
 
 #include <QDir>
+#include <QObject>
 #include <QSettings>
+#include <QTimer>
 
 #include "editor/platform/qt_text.h"
 
@@ -25,16 +27,41 @@ QString storedSpelling(const QStringList& names, const QString& name)
     return name;
 }
 
-// Opens section of settings (nothing for "General") in its stored spelling.
-void enterSection(QSettings& settings, const QString& section)
-{
-    if (!isGeneral(section))
-        settings.beginGroup(storedSpelling(settings.childGroups(), section));
-}
+// Opens section of settings (nothing for "General") in its stored spelling,
+// and closes it again when the operation is over.
+class SectionScope {
+public:
+    SectionScope(QSettings& settings, const QString& section) : settings_(settings)
+    {
+        if (!isGeneral(section)) {
+            settings_.beginGroup(storedSpelling(settings_.childGroups(), section));
+            open_ = true;
+        }
+    }
+    ~SectionScope()
+    {
+        if (open_)
+            settings_.endGroup();
+    }
+    SectionScope(const SectionScope&) = delete;
+    SectionScope& operator=(const SectionScope&) = delete;
+
+private:
+    QSettings& settings_;
+    bool open_ = false;
+};
 
 }  // namespace
 
-QtSettingsStore::QtSettingsStore(QString folder) : folder_(std::move(folder)) {}
+QtSettingsStore::QtSettingsStore(QString folder)
+    : folder_(std::move(folder)), flushContext_(std::make_unique<QObject>())
+{
+}
+
+QtSettingsStore::~QtSettingsStore()
+{
+    flush();
+}
 
 QString QtSettingsStore::fileName(const std::string& application) const
 {
@@ -44,11 +71,20 @@ QString QtSettingsStore::fileName(const std::string& application) const
     return QDir(folder_).filePath(app + QStringLiteral(".ini"));
 }
 
+QSettings& QtSettingsStore::settingsOf(const std::string& application)
+{
+    const QString file = fileName(application);
+    auto& settings = open_[file];
+    if (!settings)
+        settings = std::make_unique<QSettings>(file, QSettings::IniFormat);
+    return *settings;
+}
+
 std::string QtSettingsStore::get(const std::string& application, const std::string& section,
                                  const std::string& key, const std::string& defaultValue)
 {
-    QSettings settings(fileName(application), QSettings::IniFormat);
-    enterSection(settings, toQt(section));
+    QSettings& settings = settingsOf(application);
+    SectionScope scope(settings, toQt(section));
     const QString stored = storedSpelling(settings.childKeys(), toQt(key));
     if (!settings.contains(stored))
         return defaultValue;
@@ -58,13 +94,34 @@ std::string QtSettingsStore::get(const std::string& application, const std::stri
 bool QtSettingsStore::save(const std::string& application, const std::string& section,
                            const std::string& key, const std::string& value)
 {
-    QSettings settings(fileName(application), QSettings::IniFormat);
+    QSettings& settings = settingsOf(application);
     if (!settings.isWritable())
         return false;
-    enterSection(settings, toQt(section));
-    settings.setValue(storedSpelling(settings.childKeys(), toQt(key)), toQt(value));
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    {
+        SectionScope scope(settings, toQt(section));
+        settings.setValue(storedSpelling(settings.childKeys(), toQt(key)), toQt(value));
+    }
+    scheduleFlush();
+    return true;
+}
+
+void QtSettingsStore::scheduleFlush()
+{
+    if (flushPending_)
+        return;
+    flushPending_ = true;
+    QTimer::singleShot(kFlushDelayMs, flushContext_.get(), [this] { flush(); });
+}
+
+bool QtSettingsStore::flush()
+{
+    flushPending_ = false;
+    bool ok = true;
+    for (auto& [file, settings] : open_) {
+        settings->sync();
+        ok = ok && settings->status() == QSettings::NoError;
+    }
+    return ok;
 }
 
 }  // namespace qor

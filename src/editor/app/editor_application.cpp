@@ -1,0 +1,76 @@
+#include "editor/app/editor_application.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include "core/app/command_line.h"
+#include "core/project/file_info.h"
+#include "editor/app/main_window.h"
+#include "editor/designer/properties_panel.h"
+#include "editor/platform/qt_text.h"
+
+namespace qor {
+
+EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
+    : windows_(ports.screen.metrics(), hooks),
+      shellView_(windows_),
+      projectViews_(windows_),
+      documentView_(windows_),
+      core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
+                     ports.qmbConverter, shellView_, projectViews_, documentView_})
+{
+    shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
+    documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
+        applyAuthorFields(core_.project(), fields);
+    };
+}
+
+StartOutcome EditorApplication::start(const StartupInputs& inputs)
+{
+    return core_.shell().start(inputs);
+}
+
+void EditorApplication::connectWindow(WindowId window)
+{
+    Shell& shell = core_.shell();
+    switch (window) {
+    case WindowId::Main: {
+        MainWindow& main = windows_.main();
+        // Every command, the close box included ("&Quitter"), goes to the
+        // shell; the window decides nothing.
+        main.setCommandHandler([&shell](CommandId id, int position) { shell.run(id, position); });
+        // The titles' highlight and pop-up follow the main window's flows.
+        main.setLocalTitleHandling(false);
+        QObject::connect(&main, &MainWindow::menuTitleHovered, &main,
+                         [&shell](int i) { shell.mainWindow().pointerOverTitle(i); });
+        QObject::connect(&main, &MainWindow::menuTitlePressed, &main,
+                         [&shell](int i) { shell.mainWindow().pressTitle(i); });
+        QObject::connect(&main, &MainWindow::menuTitlesResetRequested, &main,
+                         [&shell] { shell.mainWindow().resetTitles(); });
+        break;
+    }
+    case WindowId::PropertiesPanel:
+        QObject::connect(&windows_.properties(), &PropertiesPanel::firstActivated, &windows_.properties(),
+                         [&shell] { shell.propertiesPanelActivated(); });
+        break;
+    default:
+        break;
+    }
+}
+
+StartupInputs startupInputs(int argc, const char* const* argv, const QDateTime& now)
+{
+    StartupInputs in;
+    in.executablePath = fromQt(QCoreApplication::applicationFilePath());
+    in.arguments = joinArguments(argc, argv);
+    const QLocale locale = QLocale::system();
+    // The system's long time format names the time zone in some languages;
+    // the bookkeeping keeps the clock time only.
+    QString timeFormat = locale.timeFormat(QLocale::LongFormat);
+    timeFormat.remove(QChar('t'));
+    in.facts.timeText = fromQt(locale.toString(now.time(), timeFormat.trimmed()));
+    in.facts.dateText = fromQt(locale.toString(now.date(), QLocale::ShortFormat));
+    return in;
+}
+
+}  // namespace qor

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QDateTime>
+
+#include <functional>
+
+#include "core/app/application.h"
+#include "editor/app/editor_shell_view.h"
+#include "editor/app/editor_windows.h"
+#include "editor/project/editor_document_view.h"
+#include "editor/project/project_views.h"
+
+namespace qor {
+
+// The ports the editor runs with: the Qt ones in the program, scripted ones
+// in the tests.
+struct EditorPorts {
+    Dialogs& dialogs;
+    SettingsStore& settings;
+    Desktop& desktop;
+    Screen& screen;
+    FileTypeRegistry& fileTypes;
+    QmbConverter& qmbConverter;
+};
+
+// One run of the editor: the windows, the views that show the core's
+// decisions on them, and the core's Application, wired together. The main
+// window's commands go to the shell's one dispatch point, its close box to
+// quit, its title events to the main window's flows; the properties panel's
+// first activation opens the project named on the command line.
+class EditorApplication {
+public:
+    explicit EditorApplication(EditorPorts ports, WindowHooks& hooks = WindowHooks::none());
+    EditorApplication(const EditorApplication&) = delete;
+    EditorApplication& operator=(const EditorApplication&) = delete;
+
+    // The start-up routine: Running when the windows are shown and the
+    // event loop should run, Quit when it is over already.
+    StartOutcome start(const StartupInputs& inputs);
+
+    Application& core() { return core_; }
+    EditorWindows& windows() { return windows_; }
+    EditorShellView& shellView() { return shellView_; }
+    ProjectViews& projectViews() { return projectViews_; }
+
+private:
+    void connectWindow(WindowId window);
+
+    EditorWindows windows_;
+    EditorShellView shellView_;
+    ProjectViews projectViews_;
+    EditorDocumentView documentView_;
+    Application core_;
+};
+
+// What start-up needs from the platform: the executable's path, the
+// argument text (the program's arguments, Qt's own taken out already) and
+// this start's time and date in the system's formats.
+StartupInputs startupInputs(int argc, const char* const* argv, const QDateTime& now);
+
+}  // namespace qor
