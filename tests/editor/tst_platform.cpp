@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "editor/platform/colours.h"
+#include "editor/platform/desktop_file_type_registry.h"
 #include "editor/platform/file_filter.h"
 #include "editor/platform/qt_desktop.h"
 #include "editor/platform/qt_dialogs.h"
@@ -56,6 +57,12 @@ private slots:
     void targetsBecomeUrls();
     void startedProgramIsFollowedUntilTerminated();
     void emptyCommandLineStartsNothing();
+
+    void desktopExecArguments_data();
+    void desktopExecArguments();
+    void fileTypeRegistration();
+    void fileTypeRegistrationWithoutTools();
+    void fileTypeRegistrationWhereNothingCanBeWritten();
 };
 
 // ---- file filters ----------------------------------------------------------
@@ -502,6 +509,98 @@ void TestPlatform::emptyCommandLineStartsNothing()
     desktop.textEditorEnvironment().findExecutable = [](const QString&) { return QString(); };
     desktop.textEditorEnvironment().defaultTextEditorExec = [] { return QString(); };
     QVERIFY(!desktop.editText("/tmp/x.qor"));
+}
+
+// ---- file type registration -----------------------------------------------
+
+void TestPlatform::desktopExecArguments_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("plain") << "/opt/qor/qor" << "\"/opt/qor/qor\"";
+    QTest::newRow("blanks and accents") << "/home/zoé/mes programmes/qor" << "\"/home/zoé/mes programmes/qor\"";
+    QTest::newRow("percent: not a field code") << "/a/100%/qor" << "\"/a/100%%/qor\"";
+    QTest::newRow("dollar") << "/a/$HOME/qor" << "\"/a/\\\\$HOME/qor\"";
+    QTest::newRow("back quote") << "/a/`x`/qor" << "\"/a/\\\\`x\\\\`/qor\"";
+    QTest::newRow("double quote") << "/a/\"q\"/qor" << "\"/a/\\\\\"q\\\\\"/qor\"";
+    QTest::newRow("backslash") << "/a\\b/qor" << "\"/a\\\\\\\\b/qor\"";
+}
+
+void TestPlatform::desktopExecArguments()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, written);
+    QCOMPARE(desktopExecArgument(path), written);
+}
+
+void TestPlatform::fileTypeRegistration()
+{
+    QTemporaryDir data;
+    DesktopFileTypeRegistry registry(data.path());
+    QStringList started;
+    registry.findProgram = [](const QString& program) { return "/usr/bin/" + program; };
+    registry.startProgram = [&](const QString& program, const QStringList& arguments) {
+        started << program + " " + arguments.join(' ');
+    };
+    registry.registerProjectFiles("/opt/mes outils/qor", "Source d'un menu QOR & <autres>");
+
+    QCOMPARE(registry.mimePackageFile(), data.filePath("mime/packages/application-x-qor.xml"));
+    QFile mime(registry.mimePackageFile());
+    QVERIFY(mime.open(QIODevice::ReadOnly));
+    const QString xml = QString::fromUtf8(mime.readAll());
+    QVERIFY2(xml.contains("<mime-type type=\"application/x-qor\">"), qPrintable(xml));
+    QVERIFY2(xml.contains("<glob pattern=\"*.qor\"/>"), qPrintable(xml));
+    // The description is text, not markup.
+    QVERIFY2(xml.contains("<comment>Source d'un menu QOR &amp; &lt;autres&gt;</comment>"), qPrintable(xml));
+
+    QCOMPARE(registry.desktopEntryFile(), data.filePath("applications/qor.desktop"));
+    QFile entry(registry.desktopEntryFile());
+    QVERIFY(entry.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(entry.readAll()).split('\n');
+    QCOMPARE(lines.first(), QStringLiteral("[Desktop Entry]"));
+    QVERIFY(lines.contains("Type=Application"));
+    QVERIFY(lines.contains("Exec=\"/opt/mes outils/qor\" %f"));
+    QVERIFY(lines.contains("MimeType=application/x-qor;"));
+
+    QCOMPARE(started, (QStringList{"/usr/bin/update-mime-database " + data.filePath("mime"),
+                                   "/usr/bin/update-desktop-database " + data.filePath("applications")}));
+
+    // A second registration replaces the files, it does not add to them.
+    registry.registerProjectFiles("/usr/local/bin/qor", "Source d'un menu QOR");
+    entry.close();
+    QVERIFY(entry.open(QIODevice::ReadOnly));
+    const QString again = QString::fromUtf8(entry.readAll());
+    QVERIFY(again.contains("Exec=\"/usr/local/bin/qor\" %f"));
+    QCOMPARE(again.count("[Desktop Entry]"), 1);
+}
+
+void TestPlatform::fileTypeRegistrationWithoutTools()
+{
+    QTemporaryDir data;
+    DesktopFileTypeRegistry registry(data.path());
+    QStringList started;
+    registry.findProgram = [](const QString&) { return QString(); };
+    registry.startProgram = [&](const QString& program, const QStringList&) { started << program; };
+    registry.registerProjectFiles("/opt/qor/qor", "Source d'un menu QOR");
+    QVERIFY(QFile::exists(registry.mimePackageFile()));
+    QVERIFY(QFile::exists(registry.desktopEntryFile()));
+    QVERIFY(started.isEmpty());
+}
+
+void TestPlatform::fileTypeRegistrationWhereNothingCanBeWritten()
+{
+    QTemporaryDir dir;
+    QFile blocker(dir.filePath("fichier"));
+    QVERIFY(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    DesktopFileTypeRegistry registry(dir.filePath("fichier/data"));
+    QStringList started;
+    registry.findProgram = [](const QString& program) { return "/usr/bin/" + program; };
+    registry.startProgram = [&](const QString& program, const QStringList&) { started << program; };
+    // Best effort: nothing written, nothing refreshed, nothing reported.
+    registry.registerProjectFiles("/opt/qor/qor", "Source d'un menu QOR");
+    QVERIFY(!QFile::exists(registry.mimePackageFile()));
+    QVERIFY(started.isEmpty());
 }
 
 QTEST_MAIN(TestPlatform)

@@ -72,6 +72,12 @@ void OptionCommands::run(CommandId option)
 
 Status OptionCommands::read()
 {
+    // The menu starts from the marks the window has before any options
+    // file: without one, they are what the user sees.
+    for (CommandId id : {CommandId::PrecisePointer, CommandId::MousePosition, CommandId::ShowHandles,
+                         CommandId::WizardAtStart, CommandId::RequireMediaFile})
+        view_.setOptionMark(id, markRef(id));
+
     const std::filesystem::path path = state_.programFile(kOptionsFileName);
     std::error_code ec;
     if (!std::filesystem::exists(path, ec))

@@ -23,7 +23,8 @@ public:
     // options act later, when they are consulted) and writes the options.
     void run(CommandId option);
 
-    // Reads "qor_options.ini" if it exists (the main window's load). Each of
+    // Shows the initial marks, then reads "qor_options.ini" if it exists
+    // (the main window's load). Each of
     // the first three options is set to the opposite of the wanted state and
     // its command run, so that its effect is applied exactly as a click would.
     // A file that cannot be read is reported as the error returned.

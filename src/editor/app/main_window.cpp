@@ -364,9 +364,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     // The close box is the quit command: the quit flow decides, and closes
-    // the window itself when it agrees.
+    // every window itself when it agrees.
     event->ignore();
     dispatch(CommandId::Quit, 0);
+    if (released_)
+        event->accept();
 }
 
 void MainWindow::mousePressEvent(QMouseEvent* event)

@@ -25,6 +25,12 @@ TEST_F(OptionsFixture, MissingFileKeepsTheInitialMarksAndWritesNothing)
     ASSERT_TRUE(options.read().ok());
     EXPECT_EQ(state.options, OptionMarks{});
     EXPECT_TRUE(view.log.empty());
+    // The menu shows those marks all the same.
+    EXPECT_EQ(view.marks, (std::map<CommandId, bool>{{CommandId::PrecisePointer, false},
+                                                     {CommandId::MousePosition, true},
+                                                     {CommandId::ShowHandles, true},
+                                                     {CommandId::WizardAtStart, false},
+                                                     {CommandId::RequireMediaFile, true}}));
     EXPECT_EQ(dir.read(kOptionsFileName), "");
 }
 
