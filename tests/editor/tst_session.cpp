@@ -94,6 +94,9 @@ private slots:
     void qmbFilesNeedTheConverter();
     void savingWhereNothingCanBeWritten();
     void editSourceOpensATextEditor();
+    void wizardCommandResetsAndOpensNothingYet();
+    void helpMenuReachesTheDesktop();
+    void languagesFromTheProgramFolder();
 };
 
 void TestSession::openAsksThenLoads()
@@ -592,6 +595,69 @@ void TestSession::editSourceOpensATextEditor()
              std::string("La source du projet en cours va s'afficher, après l'avoir modifiée, cliquez sur Source > "
                          "Actualiser."));
     QCOMPARE(s.desktop.edited, (std::vector<std::string>{path}));
+}
+
+void TestSession::wizardCommandResetsAndOpensNothingYet()
+{
+    OpenedSession o({"code"}, 1);
+    Session& s = o.s;
+    const int windowsBefore = QApplication::topLevelWidgets().size();
+    s.dialogs.messageAnswers = {Answer::No};
+    s.trigger(CommandId::NewWizard);
+    QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
+    QCOMPARE(s.selectorEntries(), QStringList{"Feuille de travail"});
+    QCOMPARE(s.core().project().filePath, std::string());
+    QCOMPARE(QApplication::topLevelWidgets().size(), windowsBefore);
+    // Cancel keeps the project.
+    s.dialogs.messageAnswers = {Answer::Cancel};
+    s.trigger(CommandId::NewWizard);
+    QCOMPARE(s.dialogs.messages.size(), std::size_t(2));
+}
+
+void TestSession::helpMenuReachesTheDesktop()
+{
+    Session s;
+    QCOMPARE(s.start(), StartOutcome::Running);
+    s.trigger(CommandId::Faq);
+    s.dialogs.inputAnswers = {"bouton ne marche pas"};
+    s.trigger(CommandId::BugReport);
+    s.trigger(CommandId::VersionCheck);
+    // Cancelling the description opens nothing.
+    s.dialogs.inputAnswers = {""};
+    s.trigger(CommandId::BugReport);
+    QCOMPARE(s.desktop.opened.size(), std::size_t(3));
+    const std::string site(product::webSite);
+    QCOMPARE(s.desktop.opened[0].target, site + "page.php?ext=php&q=faq");
+    QCOMPARE(s.desktop.opened[1].target, site + "br.php?bug=bouton%20ne%20marche%20pas");
+    QCOMPARE(s.desktop.opened[2].target, site + "version.php?moi=" + product::fullVersionText() + "&langue=");
+    s.trigger(CommandId::Support);
+    QCOMPARE(s.dialogs.lastMessage().title, std::string("Assistance"));
+    // Commands of later parts do nothing yet; "En ecran de veille" never does.
+    for (CommandId id : {CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileScreenSaver,
+                         CommandId::About, CommandId::Appearances})
+        s.trigger(id);
+    QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
+    QVERIFY(s.dialogs.unexpected.isEmpty());
+}
+
+void TestSession::languagesFromTheProgramFolder()
+{
+    Session s;
+    QDir().mkpath(QString::fromStdString(s.programFile("langues/English")));
+    QDir().mkpath(QString::fromStdString(s.programFile("langues/Deutsch")));
+    QCOMPARE(s.start(), StartOutcome::Running);
+    const QList<QAction*> languages = s.main().languageActions();
+    QCOMPARE(visibleTexts(languages).first(), QStringLiteral("Français"));
+    QCOMPARE(visibleTexts(languages).size(), 3);
+    QVERIFY(languages[0]->isChecked());
+    QAction* english = nullptr;
+    for (QAction* a : languages)
+        if (a->text() == "English")
+            english = a;
+    QVERIFY(english);
+    english->trigger();
+    QCOMPARE(s.settings.get("QOR", "General", "langue", ""), std::string("English"));
+    QCOMPARE(s.dialogs.lastMessage().text, std::string("Langue modifiée, veuillez redémarrer QOR."));
 }
 
 int main(int argc, char** argv)

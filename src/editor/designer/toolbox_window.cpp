@@ -38,8 +38,9 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
         }
         layout->addWidget(box);
     }
-    // A column as narrow and short as its commands allow, beside the worksheet.
-    setFixedSize(std::max(sizeHint().width(), twipsToPixels(1800, screen.twipsPerPixelX)),
+    // A column as narrow and short as its commands allow, beside the worksheet,
+    // and wide enough for the window system to show its title in full.
+    setFixedSize(std::max(sizeHint().width(), twipsToPixels(2400, screen.twipsPerPixelX)),
                  sizeHint().height());
     runLoadHooks(*this, hooks);
 }

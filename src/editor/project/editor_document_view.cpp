@@ -23,6 +23,11 @@ void EditorDocumentView::showFileInfo(const FileInfo& info, const AuthorFields& 
         if (authorFieldsAccepted)
             authorFieldsAccepted({v.authorName, v.authorEmail, v.authorWebSite, v.notes});
     });
+    // Centred on the screen: over the short main window it would be pushed
+    // against the screen's top.
+    window.adjustSize();
+    const ScreenMetrics& screen = windows_.screen();
+    window.move((int(screen.widthPixels()) - window.width()) / 2, (int(screen.heightPixels()) - window.height()) / 2);
     window.open();
 }
 

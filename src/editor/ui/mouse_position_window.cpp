@@ -12,6 +12,12 @@ MousePositionWindow::MousePositionWindow(WindowHooks& hooks)
     setObjectName(QStringLiteral("Form10"));
     setWindowTitle(QStringLiteral("Position de la souris"));
     auto* grid = new QGridLayout(this);
+    // Start-up puts this window at the main window's top, right of it: it
+    // must be no taller than the main window and the gap below it, or it
+    // covers the toolbox's caption. So the two rows sit tight.
+    grid->setContentsMargins(6, 1, 6, 1);
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(12);
     const char* resting[4] = {"X=0000", "Y=0000", "X=0000", "Y=0000"};
     for (int i = 0; i < 4; ++i) {
         auto* label = new QLabel(QString::fromUtf8(resting[i]), this);

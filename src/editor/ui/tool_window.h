@@ -10,7 +10,12 @@ namespace qor {
 class ToolWindow : public QWidget {
     Q_OBJECT
 public:
-    explicit ToolWindow(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::Tool);
+    // A tool window's caption holds its title and a close box, nothing else:
+    // narrow windows such as the toolbox keep room for their title.
+    static constexpr Qt::WindowFlags kToolFlags =
+        Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+
+    explicit ToolWindow(QWidget* parent = nullptr, Qt::WindowFlags flags = kToolFlags);
 
     // From now on a close request is honoured (the editor is quitting).
     void releaseForQuit() { released_ = true; }
