@@ -5,6 +5,8 @@
 #include <QCursor>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -97,6 +99,7 @@ private slots:
     void wizardCommandResetsAndOpensNothingYet();
     void helpMenuReachesTheDesktop();
     void languagesFromTheProgramFolder();
+    void filesDroppedOnTheWorksheet();
 };
 
 void TestSession::openAsksThenLoads()
@@ -658,6 +661,37 @@ void TestSession::languagesFromTheProgramFolder()
     english->trigger();
     QCOMPARE(s.settings.get("QOR", "General", "langue", ""), std::string("English"));
     QCOMPARE(s.dialogs.lastMessage().text, std::string("Langue modifiée, veuillez redémarrer QOR."));
+}
+
+void TestSession::filesDroppedOnTheWorksheet()
+{
+    Session s;
+    QCOMPARE(s.start(), StartOutcome::Running);
+    const std::string folder = s.folder("p");
+    const std::string first = Session::project(folder + "un.qor", {}, 1);
+    const std::string last = Session::project(folder + "deux.qor", {}, 2);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(first)), QUrl::fromLocalFile(QString::fromStdString(last))});
+    WorksheetWindow& sheet = s.windows().worksheet();
+    const QPoint at(10, 10);
+    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&sheet, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(at), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    s.dialogs.messageAnswers = {Answer::No};
+    QApplication::sendEvent(&sheet, &drop);
+    // The question first, then the last file of the drop.
+    QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
+    QCOMPARE(s.core().project().filePath, last);
+    QCOMPARE(s.selectorEntries(), (QStringList{"Feuille de travail", "Texte 1", "Texte 2"}));
+
+    // Text without files is not taken.
+    QMimeData text;
+    text.setText("menu.qor");
+    QDragEnterEvent refused(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    refused.setAccepted(false);
+    QApplication::sendEvent(&sheet, &refused);
+    QVERIFY(!refused.isAccepted());
 }
 
 int main(int argc, char** argv)

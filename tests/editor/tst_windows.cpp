@@ -346,6 +346,9 @@ void TestWindows::editorWindowsLoadAndShowOrder()
     EditorWindows windows(kScreen, hooks);
     windows.showSplash();
     QVERIFY(windows.splash().isVisible());
+    // Painted before anything else loads.
+    QVERIFY(windows.splash().painted());
+    QVERIFY(windows.loadOrder().isEmpty());
     windows.load();
     QCOMPARE(windows.loadOrder(), (QStringList{"Form1", "Form2", "Form3", "Form4", "Form5", "Form10"}));
     // The hooks ran window by window in the same order, after the splash.

@@ -7,6 +7,7 @@
 #include "core/project/file_info.h"
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
+#include "editor/designer/worksheet_window.h"
 #include "editor/platform/qt_text.h"
 
 namespace qor {
@@ -49,6 +50,16 @@ void EditorApplication::connectWindow(WindowId window)
                          [&shell] { shell.mainWindow().resetTitles(); });
         break;
     }
+    case WindowId::Worksheet:
+        // Files dropped from the desktop: the last one opens, after the question.
+        QObject::connect(&windows_.worksheet(), &WorksheetWindow::filesDropped, &windows_.worksheet(),
+                         [this](const QStringList& files) {
+                             std::vector<std::string> paths;
+                             for (const QString& f : files)
+                                 paths.push_back(fromQt(f));
+                             core_.document().openDropped(paths);
+                         });
+        break;
     case WindowId::PropertiesPanel:
         QObject::connect(&windows_.properties(), &PropertiesPanel::firstActivated, &windows_.properties(),
                          [&shell] { shell.propertiesPanelActivated(); });

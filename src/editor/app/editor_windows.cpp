@@ -1,6 +1,8 @@
 #include "editor/app/editor_windows.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
 #include <QWindow>
 
 #include "editor/app/main_window.h"
@@ -36,8 +38,14 @@ void EditorWindows::showSplash()
     const QSize screen(int(screen_.widthPixels()), int(screen_.heightPixels()));
     splash_->move((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 2);
     splash_->show();
-    splash_->repaint();
-    QCoreApplication::processEvents();
+    // Let it paint before the other windows load: a window system shows a
+    // window only once it has mapped it, which takes a moment on X11.
+    if (!splash_->painted()) {
+        QEventLoop wait;
+        QObject::connect(splash_.get(), &SplashWindow::picturePainted, &wait, &QEventLoop::quit);
+        QTimer::singleShot(kSplashPaintWaitMs, &wait, &QEventLoop::quit);
+        wait.exec(QEventLoop::ExcludeUserInputEvents);
+    }
 }
 
 void EditorWindows::loadWindow(WindowId id)

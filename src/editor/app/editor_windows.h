@@ -42,7 +42,9 @@ public:
     EditorWindows(const ScreenMetrics& screen, WindowHooks& hooks = WindowHooks::none());
     ~EditorWindows();
 
-    // The splash, shown and painted before anything else loads.
+    // The splash, shown and painted before anything else loads; a window
+    // system that has not shown it after this long is not waited for.
+    static constexpr int kSplashPaintWaitMs = 300;
     void showSplash();
 
     // Loads one window (nothing when it is loaded already).

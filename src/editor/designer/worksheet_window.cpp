@@ -1,7 +1,11 @@
 #include "editor/designer/worksheet_window.h"
 
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QResizeEvent>
+#include <QUrl>
 
 #include "editor/platform/twips.h"
 
@@ -17,6 +21,7 @@ WorksheetWindow::WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks
     background_->setScaledContents(true);
     // The usual menu size until start-up gives the worksheet the default one.
     resizeTwips(*this, kDefaultWidth, kDefaultHeight, screen);
+    setAcceptDrops(true);
     runLoadHooks(*this, hooks);
 }
 
@@ -37,6 +42,35 @@ void WorksheetWindow::resizeEvent(QResizeEvent* event)
 {
     ToolWindow::resizeEvent(event);
     background_->setGeometry(rect());
+}
+
+namespace {
+
+QStringList localFiles(const QMimeData* data)
+{
+    QStringList files;
+    if (data)
+        for (const QUrl& url : data->urls())
+            if (url.isLocalFile())
+                files << url.toLocalFile();
+    return files;
+}
+
+}  // namespace
+
+void WorksheetWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void WorksheetWindow::dropEvent(QDropEvent* event)
+{
+    const QStringList files = localFiles(event->mimeData());
+    if (files.isEmpty())
+        return;
+    event->acceptProposedAction();
+    emit filesDropped(files);
 }
 
 }  // namespace qor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "core/ports/screen.h"
 #include "editor/ui/tool_window.h"
 #include "editor/ui/window_hooks.h"
@@ -32,8 +34,14 @@ public:
     void setSelectionHandlesVisible(bool visible) { handlesVisible_ = visible; }
     bool selectionHandlesVisible() const { return handlesVisible_; }
 
+signals:
+    // Files dropped from the desktop on the worksheet, in the order given.
+    void filesDropped(const QStringList& paths);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     QLabel* background_ = nullptr;

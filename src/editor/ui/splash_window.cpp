@@ -35,6 +35,10 @@ void SplashWindow::paintEvent(QPaintEvent*)
         painter.fillRect(rect(), palette().window());
     else
         painter.drawPixmap(rect(), picture_);
+    if (!painted_) {
+        painted_ = true;
+        emit picturePainted();
+    }
 }
 
 void SplashWindow::mousePressEvent(QMouseEvent*)

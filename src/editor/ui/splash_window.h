@@ -23,9 +23,14 @@ public:
     const QPixmap& picture() const { return picture_; }
     QTimer& timer() { return timer_; }
 
+    // True once the picture has been on screen.
+    bool painted() const { return painted_; }
+
 signals:
     // The splash has closed, whatever closed it.
     void closed();
+    // The picture has been drawn.
+    void picturePainted();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,6 +43,7 @@ private:
     QPixmap picture_;
     QTimer timer_;
     bool closedOnce_ = false;
+    bool painted_ = false;
 };
 
 }  // namespace qor
