@@ -245,7 +245,6 @@ void TestStartup::optionsFileOfAnyLength_data()
     QTest::addColumn<bool>("wizard");
     QTest::addColumn<bool>("media");
     QTest::newRow("empty file") << "" << false << false << false << false << true;
-    QTest::newRow("one line") << "oui\r\n" << true << false << false << false << true;
     QTest::newRow("three lines") << "non\r\nnon\r\noui\r\n" << false << false << true << false << true;
     QTest::newRow("garbage") << "peut-être\r\n#!\r\nOUI\r\nrouge\r\n\r\n-\r\n\r\nxyz\r\nnon\r\n"
                              << false << false << false << false << false;
