@@ -45,7 +45,8 @@ public:
     virtual void clearForQuit() = 0;
 
     // Start-up gave the worksheet its first size (twips): the project's
-    // window takes it, so that a new project is saved at the size shown.
+    // window takes it, so that a new project is saved at the size shown, and
+    // the views show the new project.
     virtual void setWindowSize(double width, double height) = 0;
 };
 

@@ -228,6 +228,9 @@ void DocumentLifecycle::setWindowSize(double width, double height)
 {
     project_.width = float(width);
     project_.height = float(height);
+    // The worksheet shows the new project from the start: its size and its
+    // (white) background, not the window's default colour.
+    view_.projectReplaced(project_);
 }
 
 }  // namespace qor

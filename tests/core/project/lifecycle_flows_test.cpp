@@ -46,6 +46,18 @@ struct LifecycleFixture : ::testing::Test {
     }
 };
 
+TEST_F(LifecycleFixture, StartUpSizeIsTheProjectsAndTheViewsShowIt)
+{
+    env.project.backgroundColor = 0x123456;
+    doc.reset();
+    view.replaced.clear();
+    doc.setWindowSize(12000, 9000);
+    EXPECT_EQ(env.project.width, 12000.0f);
+    EXPECT_EQ(env.project.height, 9000.0f);
+    EXPECT_EQ(env.project.backgroundColor, 0x00FFFFFF);
+    EXPECT_EQ(view.replaced, std::vector<std::string>{""});
+}
+
 TEST_F(LifecycleFixture, SaveQuestionAnswerByAnswer)
 {
     struct Case { const char* filePath; Answer answer; bool modal; SaveAnswer result; const char* text; };
