@@ -51,6 +51,8 @@ private slots:
 
     void textEditorChoice_data();
     void textEditorChoice();
+    void mimeappsDefaults_data();
+    void mimeappsDefaults();
     void desktopExecLines_data();
     void desktopExecLines();
     void targetsBecomeUrls_data();
@@ -427,6 +429,32 @@ void TestPlatform::textEditorChoice()
     QVERIFY(call.has_value());
     QCOMPARE(call->program, expectedProgram);
     QCOMPARE(call->arguments, expectedArguments);
+}
+
+void TestPlatform::mimeappsDefaults_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("entries");
+    const QString user = QStringLiteral("[Default Applications]\ntext/plain=mousepad.desktop;\n");
+    const QString system = QStringLiteral("[Default Applications]\ntext/html=firefox.desktop\n"
+                                          "text/plain=gedit.desktop;vim.desktop\n");
+    const QString added = QStringLiteral("[Added Associations]\ntext/plain=geany.desktop;gedit.desktop;\n");
+    QTest::newRow("none") << QStringList{} << QStringList{};
+    QTest::newRow("the user's file first") << QStringList{user, system}
+                                           << QStringList{"mousepad.desktop", "gedit.desktop", "vim.desktop"};
+    QTest::newRow("added associations after every default") << QStringList{added, system}
+                                                            << QStringList{"gedit.desktop", "vim.desktop", "geany.desktop"};
+    QTest::newRow("other types and groups ignored")
+        << QStringList{QStringLiteral("[Removed Associations]\ntext/plain=kate.desktop\n"
+                                      "[Default Applications]\ntext/plainx=a.desktop\n text/plain = b.desktop ; \n")}
+        << QStringList{"b.desktop"};
+}
+
+void TestPlatform::mimeappsDefaults()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, entries);
+    QCOMPARE(desktopEntriesFor(QStringLiteral("text/plain"), files), entries);
 }
 
 void TestPlatform::desktopExecLines_data()

@@ -30,17 +30,12 @@ QUrl urlOfTarget(const std::string& target)
     return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
 }
 
-QString defaultTextEditorExec()
+namespace {
+
+// The Exec line of a desktop entry's main group, or "".
+QString execOfDesktopEntry(const QString& path)
 {
-    QProcess query;
-    query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
-                                             QStringLiteral("text/plain")});
-    if (!query.waitForFinished(2000) || query.exitCode() != 0)
-        return {};
-    const QString entry = QString::fromUtf8(query.readAllStandardOutput()).trimmed();
-    if (entry.isEmpty())
-        return {};
-    QFile file(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     bool inMainGroup = false;
@@ -50,6 +45,35 @@ QString defaultTextEditorExec()
             inMainGroup = line == QStringLiteral("[Desktop Entry]");
         else if (inMainGroup && line.startsWith(QStringLiteral("Exec=")))
             return line.mid(5);
+    }
+    return {};
+}
+
+}  // namespace
+
+QString defaultTextEditorExec()
+{
+    // The association files, the user's first: mimeapps.list in the config
+    // folders, then mimeapps.list and the older defaults.list beside the
+    // desktop entries.
+    QStringList files;
+    for (const QString& dir : QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation))
+        files << dir + QStringLiteral("/mimeapps.list");
+    for (const QString& dir : QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation))
+        files << dir + QStringLiteral("/mimeapps.list") << dir + QStringLiteral("/defaults.list");
+    QStringList contents;
+    for (const QString& path : files) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+            contents << QString::fromUtf8(file.readAll());
+    }
+    for (const QString& entry : desktopEntriesFor(QStringLiteral("text/plain"), contents)) {
+        const QString path = QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry);
+        if (path.isEmpty())
+            continue;
+        const QString exec = execOfDesktopEntry(path);
+        if (!exec.isEmpty())
+            return exec;
     }
     return {};
 }

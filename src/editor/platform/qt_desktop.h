@@ -36,7 +36,7 @@ private:
 QUrl urlOfTarget(const std::string& target);
 
 // The Exec line of the desktop's default application for plain text, as the
-// desktop's MIME database names it, or "".
+// desktop's association files name it, or "".
 QString defaultTextEditorExec();
 
 }  // namespace qor

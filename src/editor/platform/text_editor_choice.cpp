@@ -79,4 +79,34 @@ std::optional<ProgramCall> chooseTextEditor(const QString& file, const TextEdito
     return std::nullopt;
 }
 
+QStringList desktopEntriesFor(const QString& mimeType, const QStringList& mimeappsContents)
+{
+    QStringList defaults;
+    QStringList added;
+    for (const QString& content : mimeappsContents) {
+        QStringList* group = nullptr;
+        for (const QString& raw : content.split(QChar('\n'))) {
+            const QString line = raw.trimmed();
+            if (line.startsWith(QChar('['))) {
+                group = line == QStringLiteral("[Default Applications]") ? &defaults
+                        : line == QStringLiteral("[Added Associations]") ? &added
+                                                                          : nullptr;
+                continue;
+            }
+            const int eq = line.indexOf(QChar('='));
+            if (!group || eq < 0 || line.left(eq).trimmed() != mimeType)
+                continue;
+            for (const QString& entry : line.mid(eq + 1).split(QChar(';'), Qt::SkipEmptyParts)) {
+                const QString name = entry.trimmed();
+                if (!name.isEmpty() && !group->contains(name))
+                    group->append(name);
+            }
+        }
+    }
+    for (const QString& name : added)
+        if (!defaults.contains(name))
+            defaults.append(name);
+    return defaults;
+}
+
 }  // namespace qor

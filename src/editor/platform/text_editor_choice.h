@@ -37,6 +37,13 @@ struct ProgramCall {
 // when the machine has none.
 std::optional<ProgramCall> chooseTextEditor(const QString& file, const TextEditorEnvironment& env);
 
+// The desktop entries that mimeapps.list files name for mimeType, most
+// wanted first: every file's "[Default Applications]" in the order given
+// (the user's files before the system's), then their "[Added Associations]".
+// Reading the files ourselves keeps the lookup instant; the desktop's own
+// query tool is a script that may take its time.
+QStringList desktopEntriesFor(const QString& mimeType, const QStringList& mimeappsContents);
+
 // A desktop entry's Exec line made into a call on file: the file takes the
 // place of %f, %F, %u or %U (or goes last when there is none), the other
 // field codes are dropped, "%%" is a "%".
