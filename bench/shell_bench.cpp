@@ -10,6 +10,7 @@
 
 #include "core/app/application.h"
 #include "core/app/options_file.h"
+#include "core/project/no_project_hooks.h"
 #include "core/ui/appearances_file.h"
 
 namespace {
@@ -76,18 +77,6 @@ struct NullShellView : ShellView {
     void openAppearancePanel() override {}
     void openCreationWizard() override {}
 };
-struct NullProjectViews : ProjectHooks {
-    void resetViews() override {}
-    void setCurrentFolder(const std::string&) override {}
-    Status loadBackgroundImage(const std::string&) override { return {}; }
-    Status loadButtonImage(int, const std::string&) override { return {}; }
-    void buttonCreated(int, const std::string&) override {}
-    void textCreated(int) override {}
-    void setLoading(bool) override {}
-    void showStartupChoice(StartupChoice) override {}
-    void addRecentFile(const std::string&) override {}
-    void importQmb(const std::string&) override {}
-};
 struct NullDocumentView : DocumentView {
     void showFileInfo(const FileInfo&, const AuthorFields&) override {}
     void projectReplaced(const MenuProject&) override {}
@@ -102,7 +91,7 @@ void startOnce(benchmark::State& state, const std::filesystem::path& folder, boo
     NullRegistry registry;
     MissingQmbConverter converter;
     NullShellView view;
-    NullProjectViews views;
+    NoProjectHooks views;
     NullDocumentView documentView;
     for (auto _ : state) {
         if (firstRun) {
