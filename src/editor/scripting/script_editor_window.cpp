@@ -15,18 +15,9 @@
 #include <QVBoxLayout>
 
 #include "editor/platform/twips.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
-namespace {
-
-template <class W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QString::fromUtf8(name));
-    return widget;
-}
-
-}  // namespace
 
 ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : QWidget(nullptr, Qt::Window), screen_(screen)

@@ -8,17 +8,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "editor/platform/widget_names.h"
+
 namespace qor {
-namespace {
-
-template <class W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QString::fromUtf8(name));
-    return widget;
-}
-
-}  // namespace
 
 AppearanceFrame::AppearanceFrame(QWidget* parent) : QGroupBox(QStringLiteral("Apparences"), parent)
 {
