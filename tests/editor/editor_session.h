@@ -5,11 +5,13 @@
 // data folder, a fake screen and desktop, and scripted dialogs.
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QImage>
 #include <QMenu>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <deque>
 #include <functional>
@@ -255,5 +257,19 @@ private:
 
     QString savedFolder_;
 };
+
+// The main() of a session test: whatever Qt itself would keep goes to a
+// temporary home, never the user's, and the windows stay offscreen.
+template <class Test>
+int runSessionTest(int argc, char** argv)
+{
+    QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.filePath("config").toUtf8());
+    qputenv("XDG_DATA_HOME", home.filePath("data").toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
 
 }  // namespace qor::test

@@ -604,14 +604,7 @@ void TestSession::filesDroppedOnTheWorksheet()
 
 int main(int argc, char** argv)
 {
-    // Whatever Qt itself would keep goes to a temporary home, never the user's.
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath("config").toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath("data").toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    TestSession test;
-    return QTest::qExec(&test, argc, argv);
+    return qor::test::runSessionTest<TestSession>(argc, argv);
 }
 
 #include "tst_session.moc"

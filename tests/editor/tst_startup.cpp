@@ -309,14 +309,7 @@ void TestStartup::settingsStoreThatCannotBeWritten()
 
 int main(int argc, char** argv)
 {
-    // Whatever Qt itself would keep goes to a temporary home, never the user's.
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath("config").toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath("data").toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    TestStartup test;
-    return QTest::qExec(&test, argc, argv);
+    return qor::test::runSessionTest<TestStartup>(argc, argv);
 }
 
 #include "tst_startup.moc"
