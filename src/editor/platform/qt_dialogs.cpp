@@ -68,16 +68,16 @@ std::unique_ptr<QMessageBox> buildMessageBox(const Message& message, QWidget* pa
     box->setTextFormat(Qt::PlainText);
     box->setText(toQtLines(message.text));
     box->setIcon(iconOf(message.icon));
-    const auto specs = buttonsOf(message.buttons);
+    const auto choices = buttonsOf(message.buttons);
     QMessageBox::StandardButtons set;
-    for (const auto& s : specs)
+    for (const auto& s : choices)
         set |= s.button;
     box->setStandardButtons(set);
-    for (const auto& s : specs)
+    for (const auto& s : choices)
         box->button(s.button)->setText(QString::fromUtf8(s.text));
-    const int index = message.defaultButton >= 0 && message.defaultButton < int(specs.size())
+    const int index = message.defaultButton >= 0 && message.defaultButton < int(choices.size())
                           ? message.defaultButton : 0;
-    box->setDefaultButton(specs[std::size_t(index)].button);
+    box->setDefaultButton(choices[std::size_t(index)].button);
     if (message.systemModal) {
         box->setWindowModality(Qt::ApplicationModal);
         box->setWindowFlag(Qt::WindowStaysOnTopHint, true);
