@@ -262,20 +262,27 @@ void Runtime::setMember(const Value& object, const std::string& name, std::span<
         raiseHostError(*r.error, name);
 }
 
+// The place of element args in a, or error 9. Arrays have at most 60
+// dimensions (the parser refuses more), so the subscripts fit on the stack.
+std::size_t Runtime::elementOffset(const ArrayRep& a, std::span<Value> args, const std::string& name)
+{
+    std::int32_t subs[64];
+    if (args.size() != a.upper.size() || args.size() > std::size(subs))
+        raise(errc::SubscriptOutOfRange, name);
+    for (std::size_t i = 0; i < args.size(); ++i)
+        subs[i] = toLong(args[i]);
+    const std::int64_t off = a.offset(subs, args.size());
+    if (off < 0)
+        raise(errc::SubscriptOutOfRange, name);
+    return std::size_t(off);
+}
+
 Value Runtime::index(const Value& target0, std::span<Value> args, const std::string& name)
 {
     const Value& target = target0.deref();
     if (target.isArray()) {
         const ArrayRep* a = target.asArray();
-        if (args.size() != a->upper.size())
-            raise(errc::SubscriptOutOfRange, name);
-        std::int32_t subs[64];
-        for (std::size_t i = 0; i < args.size(); ++i)
-            subs[i] = toLong(args[i]);
-        std::int64_t off = a->offset(subs, args.size());
-        if (off < 0)
-            raise(errc::SubscriptOutOfRange, name);
-        return a->items[std::size_t(off)];
+        return a->items[elementOffset(*a, args, name)];
     }
     if (target.isObject()) {
         if (!target.asObject())
@@ -302,20 +309,13 @@ void Runtime::storeIndexed(Value& variable0, std::span<Value> args, const Value&
     if (!variable.isArray())
         raise(errc::TypeMismatch, name);
     ArrayRep* a = variable.asArray();
-    if (args.size() != a->upper.size())
-        raise(errc::SubscriptOutOfRange, name);
-    std::int32_t subs[64];
-    for (std::size_t i = 0; i < args.size(); ++i)
-        subs[i] = toLong(args[i]);
-    std::int64_t off = a->offset(subs, args.size());
-    if (off < 0)
-        raise(errc::SubscriptOutOfRange, name);
+    const std::size_t off = elementOffset(*a, args, name);
     if (a->refs > 1) {
         ArrayRep* copy = a->clone();
         variable = Value::array(copy);
         a = copy;
     }
-    a->items[std::size_t(off)] = v;
+    a->items[off] = v;
 }
 
 Value Runtime::letValue(Value v)

@@ -108,6 +108,7 @@ public:
                    const std::string& objectName);
     Value index(const Value& target, std::span<Value> args, const std::string& name);
     void storeIndexed(Value& variable, std::span<Value> args, const Value& v, const std::string& name);
+    std::size_t elementOffset(const ArrayRep& a, std::span<Value> args, const std::string& name);
 
     // The value an assignment without Set stores: objects give their default value.
     static Value letValue(Value v);
