@@ -769,21 +769,7 @@ Value radix(Args a, int bits, const char* digits)
     return str(out);
 }
 Value fnHex(Runtime&, Args a) { return radix(a, 4, "0123456789ABCDEF"); }
-Value fnOct(Runtime&, Args a)
-{
-    if (a[0].isNull())
-        return Value::null();
-    Value n = toNumeric(a[0]);
-    std::int32_t v = toLong(n);
-    std::uint32_t u = (n.type() == Type::Integer && v < 0) ? std::uint32_t(std::uint16_t(v)) : std::uint32_t(v);
-    std::string out;
-    do {
-        out += char('0' + (u & 7));
-        u >>= 3;
-    } while (u);
-    std::reverse(out.begin(), out.end());
-    return str(out);
-}
+Value fnOct(Runtime&, Args a) { return radix(a, 3, "01234567"); }
 
 constexpr Builtin kBuiltins[] = {
     {"MsgBox", 1, 5, fnMsgBox},

@@ -28,15 +28,6 @@ int rank(Type t)
     }
 }
 
-Value fromRankedInt(std::int64_t n, int r)
-{
-    if (r == 0 && n >= -32768 && n <= 32767)
-        return Value::integer(std::int32_t(n));
-    if (n >= INT32_MIN && n <= INT32_MAX)
-        return Value::longValue(std::int32_t(n));
-    return Value::dbl(double(n));
-}
-
 Value checkedDouble(double d, Type t = Type::Double)
 {
     if (!std::isfinite(d))
@@ -70,7 +61,7 @@ Value arithmetic(Arith op, const Value& a0, const Value& b0)
     if (r <= 1) {
         std::int64_t x = a.asInt(), y = b.asInt();
         std::int64_t n = op == Arith::Add ? x + y : op == Arith::Sub ? x - y : x * y;
-        return fromRankedInt(n, r);
+        return wholeResult(n, r == 0);
     }
     double x = numberOf(a), y = numberOf(b);
     double d = op == Arith::Add ? x + y : op == Arith::Sub ? x - y : x * y;
@@ -519,7 +510,9 @@ Value divide(const Value& a0, const Value& b0)
     return checkedDouble(x / y);
 }
 
-Value intDivide(const Value& a0, const Value& b0)
+// \ and Mod: both operands rounded to whole numbers first.
+template <class F>
+Value wholeDivision(const Value& a0, const Value& b0, F op)
 {
     Value a = toNumeric(a0), b = toNumeric(b0);
     if (a.isNull() || b.isNull())
@@ -527,18 +520,17 @@ Value intDivide(const Value& a0, const Value& b0)
     std::int64_t x = roundToLong(a), y = roundToLong(b);
     if (y == 0)
         raise(errc::DivisionByZero);
-    return fromRankedInt(x / y, std::max(rank(a.type()), rank(b.type())) == 0 ? 0 : 1);
+    return wholeResult(op(x, y), a.type() == Type::Integer && b.type() == Type::Integer);
 }
 
-Value modulo(const Value& a0, const Value& b0)
+Value intDivide(const Value& a, const Value& b)
 {
-    Value a = toNumeric(a0), b = toNumeric(b0);
-    if (a.isNull() || b.isNull())
-        return Value::null();
-    std::int64_t x = roundToLong(a), y = roundToLong(b);
-    if (y == 0)
-        raise(errc::DivisionByZero);
-    return fromRankedInt(x % y, std::max(rank(a.type()), rank(b.type())) == 0 ? 0 : 1);
+    return wholeDivision(a, b, [](std::int64_t x, std::int64_t y) { return x / y; });
+}
+
+Value modulo(const Value& a, const Value& b)
+{
+    return wholeDivision(a, b, [](std::int64_t x, std::int64_t y) { return x % y; });
 }
 
 Value power(const Value& a0, const Value& b0)
@@ -575,8 +567,8 @@ Value negate(const Value& a0)
     Value a = toNumeric(a0);
     switch (a.type()) {
     case Type::Null: return a;
-    case Type::Integer: return fromRankedInt(-std::int64_t(a.asInt()), 0);
-    case Type::Long: return fromRankedInt(-std::int64_t(a.asInt()), 1);
+    case Type::Integer: return wholeResult(-std::int64_t(a.asInt()), true);
+    case Type::Long: return wholeResult(-std::int64_t(a.asInt()), false);
     case Type::Date: return Value::date(-a.asDouble());
     default: return Value::dbl(-a.asDouble());
     }

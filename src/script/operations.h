@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <climits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,6 +44,31 @@ Value toNumeric(const Value& v);
 bool isNumericValue(const Value& v);            // IsNumeric
 
 double roundHalfEven(double d);
+
+// The type of a whole-number result: Integer while both operands are
+// Integer and it fits 16 bits, else Long while it fits 32 bits. False when
+// only a Double holds it, so that a fast path can take the general one.
+inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+{
+    if (integerOperands && n >= -32768 && n <= 32767) {
+        out = Value::integer(std::int32_t(n));
+        return true;
+    }
+    if (n >= INT32_MIN && n <= INT32_MAX) {
+        out = Value::longValue(std::int32_t(n));
+        return true;
+    }
+    return false;
+}
+
+// The same result, a Double beyond Long.
+inline Value wholeResult(std::int64_t n, bool integerOperands)
+{
+    Value out;
+    if (!storeWhole(out, n, integerOperands))
+        out = Value::dbl(double(n));
+    return out;
+}
 
 Value add(const Value& a, const Value& b);
 Value subtract(const Value& a, const Value& b);
