@@ -7,6 +7,9 @@
 #include <ctime>
 #include <unordered_map>
 
+#include "script/code.h"
+#include "script/operations.h"
+#include "script/runtime.h"
 #include "script/script_text.h"
 
 namespace qor::script {

@@ -70,12 +70,6 @@ inline void stepCounter(Value& counter, const Value& by)
 
 }  // namespace
 
-bool Expr::test(Frame& f) const
-{
-    Value c = eval(f);
-    return c.type() == Type::Boolean ? c.asBool() : isTrue(c);
-}
-
 Operand::Operand(ExprPtr e) : expr(std::move(e))
 {
     if (auto* l = dynamic_cast<LocalGet*>(expr.get()))

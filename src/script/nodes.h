@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "script/builtins.h"
+#include "script/code.h"
 #include "script/operations.h"
 #include "script/runtime.h"
 #include "script/syntax.h"
@@ -218,8 +220,6 @@ struct ConcatExpr final : Expr {
         return concat(a, b);
     }
 };
-
-using BuiltinFn = Value (*)(Runtime&, std::span<Value>);
 
 struct BuiltinCall final : Expr {
     BuiltinFn fn;

@@ -38,9 +38,6 @@ HostResult readMember(Runtime& rt, HostObject* h, const std::string& name, std::
 }
 }  // namespace
 
-Expr::~Expr() = default;
-Stmt::~Stmt() = default;
-
 namespace {
 void freeStack(Value* p) { std::free(p); }
 }  // namespace
