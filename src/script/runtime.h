@@ -41,7 +41,6 @@ public:
     // Names of the module (lower-case keys).
     Global* findGlobal(const std::string& lowerName);
     Global& globalSlot(const std::string& name);  // finds or creates an Undefined one
-    std::deque<Global>& globals() { return globals_; }
     std::vector<Ref<HostObject>> exposed;  // objects added with their members exposed
     bool optionExplicit = false;
 
