@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "script/operations.h"
 #include "script/script_error.h"
 #include "script/script_text.h"
 
@@ -56,18 +57,6 @@ bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isNameChar(char c) { return isLetter(c) || isDigit(c) || c == '_'; }
-
-// The value of a digit of base 16 or less; 99 for anything else.
-int digitValue(char d)
-{
-    if (isDigit(d))
-        return d - '0';
-    if (d >= 'a' && d <= 'f')
-        return d - 'a' + 10;
-    if (d >= 'A' && d <= 'F')
-        return d - 'A' + 10;
-    return 99;
-}
 
 [[noreturn]] void fail(int number, int line)
 {

@@ -17,6 +17,9 @@ namespace qor::script {
 // Reads a number the way the language reads one in text: blanks around,
 // sign, digits, "." fraction, exponent, or &H / &O. None when not numeric.
 std::optional<double> parseNumeric(std::string_view text);
+// The value of a digit up to base 16 (either letter case); 99 for any
+// other character, so that "digit >= base" ends a number in any base.
+int digitValue(char c);
 
 // The text of a number as CStr gives it: up to 15 significant digits,
 // "." as decimal point, exponent form beyond 1E+15 and below 1E-04 ("1E-05").

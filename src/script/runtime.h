@@ -94,6 +94,8 @@ public:
     double lastRnd = 0;
 
 private:
+    Value runBody(const Procedure& p, Value* base);
+
     ScriptHost* host_;
     std::deque<Global> globals_;
     std::unordered_map<std::string, Global*> globalIndex_;
