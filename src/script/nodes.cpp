@@ -210,28 +210,33 @@ Value MemberExpr::eval(Frame& f) const
     return f.rt->getMember(o, name, values.span(), asStatement, objectName);
 }
 
-bool testResuming(const Expr& condition, Frame& f)
+namespace {
+
+// On Error Resume Next: an error that is not fatal goes to Err, and the
+// script goes on as if the failed step had given `resumed`.
+template <class R, class F>
+R resumeOnError(Frame& f, R resumed, F&& step)
 {
     try {
-        return condition.test(f);
+        return step();
     } catch (const ScriptError& e) {
         if (e.fatal)
             throw;
         f.rt->recordError(e);
-        return true;
+        return resumed;
     }
+}
+
+}  // namespace
+
+bool testResuming(const Expr& condition, Frame& f)
+{
+    return resumeOnError(f, true, [&] { return condition.test(f); });
 }
 
 Flow Block::guarded(const Stmt& s, Frame& f)
 {
-    try {
-        return s.exec(f);
-    } catch (const ScriptError& e) {
-        if (e.fatal)
-            throw;
-        f.rt->recordError(e);
-        return Flow::Normal;
-    }
+    return resumeOnError(f, Flow::Normal, [&] { return s.exec(f); });
 }
 
 Flow AssignVar::exec(Frame& f) const

@@ -270,15 +270,9 @@ struct Block final : Stmt {
     {
         for (const auto& s : body) {
             f.rt->line = s->line;
-            if (!f.resumeNext) {
-                Flow fl = s->exec(f);
-                if (fl != Flow::Normal)
-                    return fl;
-            } else {
-                Flow fl = guarded(*s, f);
-                if (fl != Flow::Normal)
-                    return fl;
-            }
+            Flow fl = f.resumeNext ? guarded(*s, f) : s->exec(f);
+            if (fl != Flow::Normal)
+                return fl;
         }
         return Flow::Normal;
     }
