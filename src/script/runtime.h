@@ -85,7 +85,6 @@ public:
 
     // Value stack for procedure frames; never reallocated, so references
     // into it stay valid.
-    Value* stackTop() { return sp_; }
     Value* pushFrame(int count);
     void popFrame(Value* base);
 

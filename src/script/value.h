@@ -153,7 +153,6 @@ public:
 
     void addRef() { ++refs_; }
     void release() { if (--refs_ == 0) delete this; }
-    int refCount() const { return refs_; }
 
 private:
     int refs_ = 0;
