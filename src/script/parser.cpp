@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "script/script_error.h"
 #include "script/script_text.h"
@@ -230,7 +231,11 @@ SyntaxPtr Parser::parseStatement()
     for (const auto& b : kBlockStatements) {
         if (t.kw == b.kw) {
             NestGuard g(*this);
-            return (this->*b.parse)();
+            // Its lines are its own, not those of a one-line If around it.
+            int outerIf = std::exchange(singleLineIf_, 0);
+            SyntaxPtr n = (this->*b.parse)();
+            singleLineIf_ = outerIf;
+            return n;
         }
     }
     switch (t.kw) {
@@ -371,8 +376,6 @@ SyntaxPtr Parser::parseIf()
         }
         return n;
     }
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseBlock());
     for (;;) {
         if (isKw(Kw::ElseIf)) {
@@ -393,7 +396,6 @@ SyntaxPtr Parser::parseIf()
         fail(errc::ExpectedEnd);
     advance();
     expectKw(Kw::If, errc::ExpectedIf);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -401,8 +403,6 @@ SyntaxPtr Parser::parseFor()
 {
     int line = tok().line;
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     SyntaxPtr n;
     if (isKw(Kw::Each)) {
         advance();
@@ -435,7 +435,6 @@ SyntaxPtr Parser::parseFor()
     expectKw(Kw::Next, errc::ExpectedNext);
     if (tok().type == Tok::Name && tok().kw == Kw::None)
         advance();  // the optional variable name after Next
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -443,8 +442,6 @@ SyntaxPtr Parser::parseDo()
 {
     auto n = node(Syn::Do);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     SyntaxPtr cond;
     DoKind kind = DoKind::Forever;
     if (isKw(Kw::While) || isKw(Kw::Until)) {
@@ -468,7 +465,6 @@ SyntaxPtr Parser::parseDo()
     n->op = std::uint8_t(kind);
     n->kids.push_back(std::move(cond));
     n->kids.push_back(std::move(body));
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -476,14 +472,11 @@ SyntaxPtr Parser::parseWhile()
 {
     auto n = node(Syn::Do);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->op = std::uint8_t(DoKind::PreWhile);
     n->kids.push_back(parseExpression());
     n->flag = true;  // While ... Wend: Exit Do does not apply to it
     n->kids.push_back(parseBlock());
     expectKw(Kw::Wend, errc::ExpectedWend);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -492,8 +485,6 @@ SyntaxPtr Parser::parseSelect()
     auto n = node(Syn::Select);
     advance();
     expectKw(Kw::Case, errc::ExpectedCase);
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseExpression());
     endStatement();
     skipSeparators();
@@ -523,7 +514,6 @@ SyntaxPtr Parser::parseSelect()
         fail(n->kids.size() == 1 ? errc::ExpectedCase : errc::ExpectedEnd);
     advance();
     expectKw(Kw::Select, errc::ExpectedSelect);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -604,8 +594,6 @@ SyntaxPtr Parser::parseWith()
 {
     auto n = node(Syn::With);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseExpression());
     ++withDepth_;
     n->kids.push_back(parseBlock());
@@ -614,7 +602,6 @@ SyntaxPtr Parser::parseWith()
         fail(errc::ExpectedEnd);
     advance();
     expectKw(Kw::With, errc::ExpectedWith);
-    singleLineIf_ = saved;
     return n;
 }
 
