@@ -309,16 +309,23 @@ std::optional<Flow> ForStmt::runLocalCounter(Frame& f, bool up) const
 {
     Value& counter = f.locals[var.slot];
     const Value& by = f.locals[stepSlot];
-    const std::int32_t to = f.locals[limitSlot].asInt();
+    const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
+    const bool integerStep = by.type() == Type::Integer;
+    const Stmt& statements = *body;
+    const int forLine = line;
     for (;;) {
         if (!counter.isInteger())
             return std::nullopt;
         std::int32_t c = counter.asInt();
         if (up ? c > to : c < to)
             return Flow::Normal;
-        if (std::optional<Flow> done = turn(*body, line, f))
+        if (std::optional<Flow> done = turn(statements, forLine, f))
             return done;
-        stepCounter(counter, by);
+        if (!counter.isInteger()) {
+            stepCounter(counter, by);
+            return std::nullopt;
+        }
+        counter = wholeResult(std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep);
     }
 }
 

@@ -159,11 +159,10 @@ struct AddSubExpr final : Expr {
     Value eval(Frame& f) const override
     {
         QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger()) {
-            Value out;
-            if (storeWhole(out, combine(a, b), bothInteger(a, b)))
-                return out;
-        } else if constexpr (!Subtract) {
+        // Whole numbers give what add or subtract would, without the detour.
+        if (a.isInteger() && b.isInteger())
+            return wholeResult(combine(a, b), bothInteger(a, b));
+        if constexpr (!Subtract) {
             if (a.type() == Type::Double && b.type() == Type::Double) {
                 double d = a.asDouble() + b.asDouble();
                 if (d - d == 0)

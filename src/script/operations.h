@@ -49,28 +49,38 @@ bool isNumericValue(const Value& v);            // IsNumeric
 double roundHalfEven(double d);
 
 // The type of a whole-number result: Integer while both operands are
-// Integer and it fits 16 bits, else Long while it fits 32 bits. False when
-// only a Double holds it, so that a fast path can take the general one.
-inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+// Integer and it fits 16 bits, else Long while it fits 32 bits, else Double.
+enum class WholeType : std::uint8_t { Integer, Long, Double };
+inline WholeType wholeType(std::int64_t n, bool integerOperands)
 {
-    if (integerOperands && n >= -32768 && n <= 32767) {
-        out = Value::integer(std::int32_t(n));
-        return true;
-    }
-    if (n >= INT32_MIN && n <= INT32_MAX) {
-        out = Value::longValue(std::int32_t(n));
-        return true;
-    }
-    return false;
+    if (integerOperands && n >= -32768 && n <= 32767)
+        return WholeType::Integer;
+    if (n >= INT32_MIN && n <= INT32_MAX)
+        return WholeType::Long;
+    return WholeType::Double;
 }
 
-// The same result, a Double beyond Long.
+// The result as a value of that type.
 inline Value wholeResult(std::int64_t n, bool integerOperands)
 {
-    Value out;
-    if (!storeWhole(out, n, integerOperands))
-        out = Value::dbl(double(n));
-    return out;
+    switch (wholeType(n, integerOperands)) {
+    case WholeType::Integer: return Value::integer(std::int32_t(n));
+    case WholeType::Long: return Value::longValue(std::int32_t(n));
+    case WholeType::Double: break;
+    }
+    return Value::dbl(double(n));
+}
+
+// The same into out, for the fast paths that store a whole number in
+// place; false, with out untouched, when only a Double holds it.
+inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+{
+    switch (wholeType(n, integerOperands)) {
+    case WholeType::Integer: out = Value::integer(std::int32_t(n)); return true;
+    case WholeType::Long: out = Value::longValue(std::int32_t(n)); return true;
+    case WholeType::Double: break;
+    }
+    return false;
 }
 
 Value add(const Value& a, const Value& b);

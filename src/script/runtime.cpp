@@ -195,13 +195,22 @@ private:
     Value* base_;
 };
 
-
 void checkArgumentCount(const Procedure& p, std::size_t count)
 {
     if (count != p.byRef.size())
         raise(errc::WrongArguments, p.name);
 }
 }  // namespace
+
+// Runs a procedure whose frame holds its arguments; gives its return value.
+inline Value Runtime::runBody(const Procedure& p, Value* base)
+{
+    Frame frame{this, base, false};
+    p.body->exec(frame);
+    if (p.returnSlot >= 0)
+        return std::move(base[p.returnSlot]);
+    return Value();
+}
 
 Value Runtime::callProcedure(const Procedure& p, const ExprList& args, Frame& caller)
 {
@@ -235,16 +244,6 @@ Value Runtime::callProcedureWithValues(const Procedure& p, std::span<Value> args
     for (std::size_t i = 0; i < args.size(); ++i)
         base[i] = args[i];
     return runBody(p, base);
-}
-
-// Runs a procedure whose frame holds its arguments; gives its return value.
-Value Runtime::runBody(const Procedure& p, Value* base)
-{
-    Frame frame{this, base, false};
-    p.body->exec(frame);
-    if (p.returnSlot >= 0)
-        return std::move(base[p.returnSlot]);
-    return Value();
 }
 
 Value Runtime::getMember(const Value& object, const std::string& name, std::span<Value> args, bool asStatement,
