@@ -7,6 +7,9 @@
 #include <ctime>
 #include <unordered_map>
 
+#include "script/code.h"
+#include "script/operations.h"
+#include "script/runtime.h"
 #include "script/script_text.h"
 
 namespace qor::script {
@@ -17,17 +20,10 @@ using Args = std::span<Value>;
 
 bool given(Args a, std::size_t i) { return i < a.size() && !isMissing(a[i]); }
 
-std::string textArg(Args a, std::size_t i) { return toText(a[i]); }
-
 // Text functions give Null for Null, as the language does.
 bool nullIn(Args a, std::size_t i) { return i < a.size() && a[i].isNull(); }
 
 Value str(std::string s) { return Value::string(s); }
-
-std::string_view viewOf(const Value& v) { return v.asStringView(); }
-
-// A string value for text functions that work on characters.
-Value textValue(const Value& v) { return toTextValue(v); }
 
 std::int32_t charLength(const Value& s)
 {
@@ -45,7 +41,7 @@ Value substring(const Value& s, std::int64_t start, std::int64_t count)
     count = std::min(count, len - start);
     if (start == 0 && count == len)
         return s;
-    std::string_view v = viewOf(s);
+    std::string_view v = s.asStringView();
     if (r->isAscii()) {
         StringRep* out = StringRep::make(v.substr(std::size_t(start), std::size_t(count)));
         out->chars = std::int32_t(count);
@@ -59,7 +55,7 @@ Value substring(const Value& s, std::int64_t start, std::int64_t count)
 // Position (1-based characters) of what in text from character start (0-based), 0 when absent.
 std::int64_t findText(const Value& text, const Value& what, std::int64_t start, bool ignoreCase)
 {
-    std::string_view t = viewOf(text), w = viewOf(what);
+    std::string_view t = text.asStringView(), w = what.asStringView();
     StringRep* r = text.asStringRep();
     bool ascii = !r || r->isAscii();
     std::size_t from = ascii ? std::size_t(start) : byteOffsetOfChar(t, std::size_t(start));
@@ -102,10 +98,10 @@ std::int64_t nonNegative(const Value& v)
 Value fnMsgBox(Runtime& rt, Args a)
 {
     MsgBoxRequest r;
-    r.prompt = textArg(a, 0);
+    r.prompt = toText(a[0]);
     r.buttons = given(a, 1) ? toLong(a[1]) : 0;
     if (given(a, 2))
-        r.title = textArg(a, 2);
+        r.title = toText(a[2]);
     int answer = rt.host() ? rt.host()->msgBox(r) : vbOK;
     return Value::integer(answer);
 }
@@ -113,18 +109,18 @@ Value fnMsgBox(Runtime& rt, Args a)
 Value fnInputBox(Runtime& rt, Args a)
 {
     InputBoxRequest r;
-    r.prompt = textArg(a, 0);
+    r.prompt = toText(a[0]);
     if (given(a, 1))
-        r.title = textArg(a, 1);
+        r.title = toText(a[1]);
     if (given(a, 2))
-        r.defaultText = textArg(a, 2);
+        r.defaultText = toText(a[2]);
     std::optional<std::string> answer = rt.host() ? rt.host()->inputBox(r) : std::nullopt;
     return str(answer.value_or(""));
 }
 
 Value fnCreateObject(Runtime& rt, Args a)
 {
-    std::string id = textArg(a, 0);
+    std::string id = toText(a[0]);
     if (!rt.host())
         raise(errc::CannotCreateObject, id);
     HostResult r = rt.host()->createObject(id);
@@ -139,7 +135,7 @@ Value fnCreateObject(Runtime& rt, Args a)
 
 Value fnLoadPicture(Runtime& rt, Args a)
 {
-    std::string path = given(a, 0) ? textArg(a, 0) : std::string();
+    std::string path = given(a, 0) ? toText(a[0]) : std::string();
     if (!rt.host())
         raise(errc::InvalidPicture);
     HostResult r = rt.host()->loadPicture(path);
@@ -172,8 +168,8 @@ Value fnChrW(Runtime&, Args a)
 
 char32_t firstChar(Args a)
 {
-    Value s = textValue(a[0]);
-    std::string_view v = viewOf(s);
+    Value s = toTextValue(a[0]);
+    std::string_view v = s.asStringView();
     if (v.empty())
         raise(errc::InvalidCall);
     std::size_t pos = 0;
@@ -200,21 +196,21 @@ Value fnLen(Runtime&, Args a)
         return Value::null();
     if (a[0].isString())
         return Value::longValue(charLength(a[0]));
-    return Value::longValue(charLength(textValue(a[0])));
+    return Value::longValue(charLength(toTextValue(a[0])));
 }
 
 Value fnLeft(Runtime&, Args a)
 {
     if (nullIn(a, 0))
         return Value::null();
-    return substring(textValue(a[0]), 0, nonNegative(a[1]));
+    return substring(toTextValue(a[0]), 0, nonNegative(a[1]));
 }
 
 Value fnRight(Runtime&, Args a)
 {
     if (nullIn(a, 0))
         return Value::null();
-    Value s = textValue(a[0]);
+    Value s = toTextValue(a[0]);
     std::int64_t n = nonNegative(a[1]), len = charLength(s);
     return substring(s, std::max<std::int64_t>(0, len - n), n);
 }
@@ -223,7 +219,7 @@ Value fnMid(Runtime&, Args a)
 {
     if (nullIn(a, 0))
         return Value::null();
-    Value s = textValue(a[0]);
+    Value s = toTextValue(a[0]);
     std::int32_t start = toLong(a[1]);
     if (start < 1)
         raise(errc::InvalidCall);
@@ -235,8 +231,8 @@ Value mapCase(Args a, bool upper)
 {
     if (nullIn(a, 0))
         return Value::null();
-    Value s = textValue(a[0]);
-    std::string_view v = viewOf(s);
+    Value s = toTextValue(a[0]);
+    std::string_view v = s.asStringView();
     return str(upper ? upperText(v) : lowerText(v));
 }
 Value fnUCase(Runtime&, Args a) { return mapCase(a, true); }
@@ -246,8 +242,8 @@ Value trim(Args a, bool left, bool right)
 {
     if (nullIn(a, 0))
         return Value::null();
-    Value s = textValue(a[0]);
-    std::string_view v = viewOf(s);
+    Value s = toTextValue(a[0]);
+    std::string_view v = s.asStringView();
     std::size_t b = 0, e = v.size();
     if (left)
         while (b < e && v[b] == ' ')
@@ -280,7 +276,7 @@ Value fnInStr(Runtime&, Args a)
     if (nullIn(a, base) || nullIn(a, base + 1))
         return Value::null();
     bool ignoreCase = compareMode(a, base + 2) == 1;
-    Value text = textValue(a[base]), what = textValue(a[base + 1]);
+    Value text = toTextValue(a[base]), what = toTextValue(a[base + 1]);
     std::int64_t len = charLength(text);
     if (start >= len && !(len == 0 && start == 0))
         return Value::longValue(0);
@@ -293,7 +289,7 @@ Value fnInStrRev(Runtime&, Args a)
 {
     if (nullIn(a, 0) || nullIn(a, 1))
         return Value::null();
-    Value text = textValue(a[0]), what = textValue(a[1]);
+    Value text = toTextValue(a[0]), what = toTextValue(a[1]);
     std::int64_t len = charLength(text);
     std::int64_t start = given(a, 2) ? toLong(a[2]) : -1;
     if (start == 0 || start < -1)
@@ -308,7 +304,7 @@ Value fnInStrRev(Runtime&, Args a)
         return Value::longValue(std::int32_t(start));
     // Search the first start characters for the last match.
     Value head = substring(text, 0, start);
-    std::string h(viewOf(head)), w(viewOf(what));
+    std::string h(head.asStringView()), w(what.asStringView());
     if (ignoreCase) {
         h = lowerText(h);
         w = lowerText(w);
@@ -323,8 +319,8 @@ Value fnReplace(Runtime&, Args a)
 {
     if (nullIn(a, 0) || nullIn(a, 1) || nullIn(a, 2))
         return Value::null();
-    Value text = textValue(a[0]);
-    std::string find = textArg(a, 1), with = textArg(a, 2);
+    Value text = toTextValue(a[0]);
+    std::string find = toText(a[1]), with = toText(a[2]);
     std::int64_t start = given(a, 3) ? toLong(a[3]) : 1;
     if (start < 1)
         raise(errc::InvalidCall);
@@ -334,7 +330,7 @@ Value fnReplace(Runtime&, Args a)
     bool ignoreCase = compareMode(a, 5) == 1;
     // The result starts at start, as the language's Replace does.
     Value tail = substring(text, start - 1, INT32_MAX);
-    std::string src(viewOf(tail));
+    std::string src(tail.asStringView());
     if (find.empty() || count == 0)
         return str(src);
     std::string hay = ignoreCase ? lowerText(src) : src;
@@ -375,7 +371,7 @@ Value fnString(Runtime&, Args a)
         return Value::null();
     std::string unit;
     if (a[1].isString()) {
-        std::string_view v = viewOf(a[1]);
+        std::string_view v = a[1].asStringView();
         if (v.empty())
             raise(errc::InvalidCall);
         std::size_t pos = 0;
@@ -398,8 +394,8 @@ Value fnStrReverse(Runtime&, Args a)
 {
     if (nullIn(a, 0))
         raise(errc::InvalidUseOfNull);
-    Value s = textValue(a[0]);
-    std::string_view v = viewOf(s);
+    Value s = toTextValue(a[0]);
+    std::string_view v = s.asStringView();
     std::vector<std::string_view> chars;
     std::size_t pos = 0;
     while (pos < v.size()) {
@@ -419,7 +415,7 @@ Value fnStrComp(Runtime&, Args a)
     if (nullIn(a, 0) || nullIn(a, 1))
         return Value::null();
     bool ignoreCase = compareMode(a, 2) == 1;
-    std::string x = textArg(a, 0), y = textArg(a, 1);
+    std::string x = toText(a[0]), y = toText(a[1]);
     int c = ignoreCase ? compareNoCase(x, y) : (x < y ? -1 : x > y);
     return Value::integer(c);
 }
@@ -428,8 +424,8 @@ Value fnSplit(Runtime&, Args a)
 {
     if (nullIn(a, 0))
         raise(errc::InvalidUseOfNull);
-    std::string text = textArg(a, 0);
-    std::string delim = given(a, 1) ? textArg(a, 1) : " ";
+    std::string text = toText(a[0]);
+    std::string delim = given(a, 1) ? toText(a[1]) : " ";
     std::int64_t limit = given(a, 2) ? toLong(a[2]) : -1;
     bool ignoreCase = compareMode(a, 3) == 1;
     std::vector<std::string> parts;
@@ -465,7 +461,7 @@ Value fnJoin(Runtime&, Args a)
 {
     if (!a[0].isArray() || a[0].asArray()->upper.size() != 1)
         raise(errc::TypeMismatch);
-    std::string delim = given(a, 1) ? textArg(a, 1) : " ";
+    std::string delim = given(a, 1) ? toText(a[1]) : " ";
     std::string out;
     const auto& items = a[0].asArray()->items;
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -769,21 +765,7 @@ Value radix(Args a, int bits, const char* digits)
     return str(out);
 }
 Value fnHex(Runtime&, Args a) { return radix(a, 4, "0123456789ABCDEF"); }
-Value fnOct(Runtime&, Args a)
-{
-    if (a[0].isNull())
-        return Value::null();
-    Value n = toNumeric(a[0]);
-    std::int32_t v = toLong(n);
-    std::uint32_t u = (n.type() == Type::Integer && v < 0) ? std::uint32_t(std::uint16_t(v)) : std::uint32_t(v);
-    std::string out;
-    do {
-        out += char('0' + (u & 7));
-        u >>= 3;
-    } while (u);
-    std::reverse(out.begin(), out.end());
-    return str(out);
-}
+Value fnOct(Runtime&, Args a) { return radix(a, 3, "01234567"); }
 
 constexpr Builtin kBuiltins[] = {
     {"MsgBox", 1, 5, fnMsgBox},

@@ -3,9 +3,13 @@
 #include <span>
 #include <string_view>
 
-#include "script/nodes.h"
+#include "script/value.h"
 
 namespace qor::script {
+
+class Runtime;
+
+using BuiltinFn = Value (*)(Runtime&, std::span<Value>);
 
 // A function of the language's library, called with its arguments already
 // evaluated (a left-out argument is marked, see isMissing).

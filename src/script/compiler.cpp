@@ -60,61 +60,17 @@ void forEachDeclaration(SyntaxNode& n, F&& f)
 
 Global& Compiler::moduleGlobal(const std::string& name) { return rt_.globalSlot(name); }
 
+// Names resolve innermost first: the procedure's own names, then the
+// module's (this text's and the earlier texts'), then the library's.
 Compiler::Resolved Compiler::resolve(const std::string& name, bool forCall)
 {
     std::string key = lowerAscii(name);
     Scope& s = *scope_;
     Resolved r;
-    if (!s.top) {
-        auto it = s.names.find(key);
-        if (it != s.names.end()) {
-            r.slot = it->second.slot;
-            switch (it->second.kind) {
-            case LocalKind::Var: r.kind = NameKind::Local; break;
-            case LocalKind::RefParam: r.kind = NameKind::RefParam; break;
-            case LocalKind::Const:
-                r.kind = NameKind::Constant;
-                r.constant = it->second.constant;
-                break;
-            }
-            return r;
-        }
-        if (!forCall && key == s.functionName) {
-            r.kind = NameKind::Local;
-            r.slot = s.returnSlot;
-            return r;
-        }
-    }
-    if (auto c = newConstants_.find(key); c != newConstants_.end()) {
-        r.kind = NameKind::Constant;
-        r.constant = c->second;
+    if (!s.top && resolveLocal(key, forCall, r))
         return r;
-    }
-    if (newProcedures_.count(key) || newVariables_.count(key) || topAssigned_.count(key)) {
-        r.kind = NameKind::Global;
-        r.global = &moduleGlobal(name);
+    if (resolveModule(name, key, r))
         return r;
-    }
-    if (Global* g = rt_.findGlobal(key); g && g->kind != Global::Undefined) {
-        if (g->kind == Global::Constant) {
-            r.kind = NameKind::Constant;
-            r.constant = g->value;
-            return r;
-        }
-        r.kind = NameKind::Global;
-        r.global = g;
-        return r;
-    }
-    if (const Value* c = findBuiltinConstant(key)) {
-        r.kind = NameKind::Constant;
-        r.constant = *c;
-        return r;
-    }
-    if (const Builtin* b = findBuiltin(key)) {
-        r.kind = NameKind::Builtin;
-        r.builtin = b;
-        return r;
-    }
     if (!s.top && s.assigned.count(key) && rt_.exposed.empty() && !explicit_) {
         // Assigned but never declared in a procedure: a local, as the language makes it.
         Local l;
@@ -127,6 +83,66 @@ Compiler::Resolved Compiler::resolve(const std::string& name, bool forCall)
     r.kind = NameKind::Global;
     r.global = &moduleGlobal(name);
     return r;
+}
+
+// A parameter, Dim or Const of the procedure, or its Function's return value.
+bool Compiler::resolveLocal(const std::string& key, bool forCall, Resolved& r)
+{
+    Scope& s = *scope_;
+    auto it = s.names.find(key);
+    if (it != s.names.end()) {
+        r.slot = it->second.slot;
+        switch (it->second.kind) {
+        case LocalKind::Var: r.kind = NameKind::Local; break;
+        case LocalKind::RefParam: r.kind = NameKind::RefParam; break;
+        case LocalKind::Const:
+            r.kind = NameKind::Constant;
+            r.constant = it->second.constant;
+            break;
+        }
+        return true;
+    }
+    if (!forCall && key == s.functionName) {
+        r.kind = NameKind::Local;
+        r.slot = s.returnSlot;
+        return true;
+    }
+    return false;
+}
+
+bool Compiler::resolveModule(const std::string& name, const std::string& key, Resolved& r)
+{
+    if (auto c = newConstants_.find(key); c != newConstants_.end()) {
+        r.kind = NameKind::Constant;
+        r.constant = c->second;
+        return true;
+    }
+    if (newProcedures_.count(key) || newVariables_.count(key) || topAssigned_.count(key)) {
+        r.kind = NameKind::Global;
+        r.global = &moduleGlobal(name);
+        return true;
+    }
+    if (Global* g = rt_.findGlobal(key); g && g->kind != Global::Undefined) {
+        if (g->kind == Global::Constant) {
+            r.kind = NameKind::Constant;
+            r.constant = g->value;
+            return true;
+        }
+        r.kind = NameKind::Global;
+        r.global = g;
+        return true;
+    }
+    if (const Value* c = findBuiltinConstant(key)) {
+        r.kind = NameKind::Constant;
+        r.constant = *c;
+        return true;
+    }
+    if (const Builtin* b = findBuiltin(key)) {
+        r.kind = NameKind::Builtin;
+        r.builtin = b;
+        return true;
+    }
+    return false;
 }
 
 VarRef Compiler::variable(const std::string& name, int line)
@@ -243,7 +259,7 @@ ExprPtr Compiler::withObject(int line)
     return at(std::make_unique<WithGet>(scope_->withSlots.back()), line);
 }
 
-ExprList Compiler::arguments(std::vector<std::unique_ptr<SyntaxNode>>& kids, std::size_t first)
+ExprList Compiler::arguments(const std::vector<SyntaxPtr>& kids, std::size_t first)
 {
     ExprList out;
     for (std::size_t i = first; i < kids.size(); ++i)
@@ -251,8 +267,8 @@ ExprList Compiler::arguments(std::vector<std::unique_ptr<SyntaxNode>>& kids, std
     return out;
 }
 
-ExprPtr Compiler::nameCall(SyntaxNode& nameNode, std::vector<std::unique_ptr<SyntaxNode>>& kids, std::size_t first,
-                           bool asStatement, int line)
+ExprPtr Compiler::nameCall(SyntaxNode& nameNode, std::vector<SyntaxPtr>& kids, std::size_t first, bool asStatement,
+                           int line)
 {
     Resolved r = resolve(nameNode.name, true);
     ExprList args = arguments(kids, first);
@@ -272,6 +288,21 @@ ExprPtr Compiler::nameCall(SyntaxNode& nameNode, std::vector<std::unique_ptr<Syn
     }
 }
 
+// obj.name or .name inside With, with the arguments argKids[1..] (none
+// when argKids is empty).
+ExprPtr Compiler::member(SyntaxNode& target, const std::vector<SyntaxPtr>& argKids, bool asStatement, int line)
+{
+    if (target.kind == Syn::WithMember)
+        return at(std::make_unique<MemberExpr>(withObject(line), target.name, arguments(argKids, 1), asStatement, ""),
+                  line);
+    std::string objectName = describe(*target.kids[0]);
+    ExprPtr object = expr(*target.kids[0]);
+    return at(std::make_unique<MemberExpr>(std::move(object), target.name, arguments(argKids, 1), asStatement,
+                                           std::move(objectName)),
+              line);
+}
+
+// A Call node, or a call statement (the same shape: callee, then arguments).
 ExprPtr Compiler::callee(SyntaxNode& call, bool asStatement)
 {
     SyntaxNode& target = *call.kids[0];
@@ -279,21 +310,50 @@ ExprPtr Compiler::callee(SyntaxNode& call, bool asStatement)
     switch (target.kind) {
     case Syn::Name:
         return nameCall(target, call.kids, 1, asStatement, line);
-    case Syn::Member: {
-        std::string objectName = describe(*target.kids[0]);
-        ExprPtr object = expr(*target.kids[0]);
-        return at(std::make_unique<MemberExpr>(std::move(object), target.name, arguments(call.kids, 1), asStatement,
-                                               std::move(objectName)),
-                  line);
-    }
+    case Syn::Member:
     case Syn::WithMember:
-        return at(std::make_unique<MemberExpr>(withObject(line), target.name, arguments(call.kids, 1), asStatement, ""),
-                  line);
+        return member(target, call.kids, asStatement, line);
     default: {
         ExprPtr t = expr(target);
         return at(std::make_unique<IndexExpr>(std::move(t), arguments(call.kids, 1), describe(target)), line);
     }
     }
+}
+
+ExprPtr Compiler::name(SyntaxNode& n)
+{
+    int line = n.line;
+    Resolved r = resolve(n.name, false);
+    switch (r.kind) {
+    case NameKind::Local: return at(std::make_unique<LocalGet>(r.slot), line);
+    case NameKind::RefParam: return at(std::make_unique<RefParamGet>(r.slot), line);
+    case NameKind::Constant: return at(std::make_unique<Literal>(r.constant), line);
+    case NameKind::Builtin:
+        if (r.builtin->minArgs > 0)
+            return at(std::make_unique<RaiseExpr>(errc::WrongArguments, r.builtin->name), line);
+        return at(std::make_unique<BuiltinCall>(r.builtin->fn, ExprList{}, 0), line);
+    default: return at(std::make_unique<GlobalGet>(r.global), line);
+    }
+}
+
+// The hot operators get nodes of their own; the rest share BinaryExpr.
+ExprPtr Compiler::binary(SyntaxNode& n)
+{
+    int line = n.line;
+    BinOp op = BinOp(n.op);
+    ExprPtr a = expr(*n.kids[0]);
+    ExprPtr b = expr(*n.kids[1]);
+    if (op == BinOp::Add)
+        return at(std::make_unique<AddExpr>(std::move(a), std::move(b)), line);
+    if (op == BinOp::Sub)
+        return at(std::make_unique<SubExpr>(std::move(a), std::move(b)), line);
+    if (op == BinOp::Concat)
+        return at(std::make_unique<ConcatExpr>(std::move(a), std::move(b)), line);
+    if (isCompare(op)) {
+        std::uint8_t lit = (a->isLiteral() ? LeftLiteral : 0) | (b->isLiteral() ? RightLiteral : 0);
+        return at(std::make_unique<CompareExpr>(compareOf(op), lit, std::move(a), std::move(b)), line);
+    }
+    return at(std::make_unique<BinaryExpr>(op, std::move(a), std::move(b)), line);
 }
 
 ExprPtr Compiler::expr(SyntaxNode& n)
@@ -302,26 +362,11 @@ ExprPtr Compiler::expr(SyntaxNode& n)
     switch (n.kind) {
     case Syn::Literal:
         return at(std::make_unique<Literal>(n.value), line);
-    case Syn::Name: {
-        Resolved r = resolve(n.name, false);
-        switch (r.kind) {
-        case NameKind::Local: return at(std::make_unique<LocalGet>(r.slot), line);
-        case NameKind::RefParam: return at(std::make_unique<RefParamGet>(r.slot), line);
-        case NameKind::Constant: return at(std::make_unique<Literal>(r.constant), line);
-        case NameKind::Builtin:
-            if (r.builtin->minArgs > 0)
-                return at(std::make_unique<RaiseExpr>(errc::WrongArguments, r.builtin->name), line);
-            return at(std::make_unique<BuiltinCall>(r.builtin->fn, ExprList{}, 0), line);
-        default: return at(std::make_unique<GlobalGet>(r.global), line);
-        }
-    }
-    case Syn::Member: {
-        std::string objectName = describe(*n.kids[0]);
-        ExprPtr object = expr(*n.kids[0]);
-        return at(std::make_unique<MemberExpr>(std::move(object), n.name, ExprList{}, false, std::move(objectName)), line);
-    }
+    case Syn::Name:
+        return name(n);
+    case Syn::Member:
     case Syn::WithMember:
-        return at(std::make_unique<MemberExpr>(withObject(line), n.name, ExprList{}, false, ""), line);
+        return member(n, {}, false, line);
     case Syn::Call:
         return callee(n, false);
     case Syn::Paren:
@@ -335,22 +380,8 @@ ExprPtr Compiler::expr(SyntaxNode& n)
         }
         return at(std::make_unique<UnaryExpr>(UnOp(n.op), expr(*n.kids[0])), line);
     }
-    case Syn::Binary: {
-        BinOp op = BinOp(n.op);
-        ExprPtr a = expr(*n.kids[0]);
-        ExprPtr b = expr(*n.kids[1]);
-        if (op == BinOp::Add)
-            return at(std::make_unique<AddExpr>(std::move(a), std::move(b)), line);
-        if (op == BinOp::Sub)
-            return at(std::make_unique<SubExpr>(std::move(a), std::move(b)), line);
-        if (op == BinOp::Concat)
-            return at(std::make_unique<ConcatExpr>(std::move(a), std::move(b)), line);
-        if (isCompare(op)) {
-            std::uint8_t lit = (a->isLiteral() ? LeftLiteral : 0) | (b->isLiteral() ? RightLiteral : 0);
-            return at(std::make_unique<CompareExpr>(compareOf(op), lit, std::move(a), std::move(b)), line);
-        }
-        return at(std::make_unique<BinaryExpr>(op, std::move(a), std::move(b)), line);
-    }
+    case Syn::Binary:
+        return binary(n);
     default:
         fail(errc::ExpectedExpression, line);
     }
@@ -392,249 +423,238 @@ void Compiler::declare(SyntaxNode& dim, std::vector<StmtPtr>& out)
     }
 }
 
+// A constant assigned: the error is raised when the statement runs.
+StmtPtr Compiler::illegalAssignment(const std::string& name, int line)
+{
+    auto s = std::make_unique<RaiseStmt>();
+    s->number = errc::IllegalAssignment;
+    s->name = name;
+    return at(std::move(s), line);
+}
+
 StmtPtr Compiler::assignment(SyntaxNode& n)
 {
     SyntaxNode& target = *n.kids[0];
-    bool isSet = n.flag;
     int line = n.line;
     switch (target.kind) {
     case Syn::Name: {
         Resolved r = resolve(target.name, false);
         ExprPtr value = expr(*n.kids[1]);
         if (r.kind == NameKind::Local)
-            return at(std::make_unique<AssignLocal>(r.slot, std::move(value), isSet), line);
-        if (r.kind == NameKind::Constant) {
-            auto s = std::make_unique<RaiseStmt>();
-            s->number = errc::IllegalAssignment;
-            s->name = target.name;
-            return at(std::move(s), line);
-        }
-        return at(std::make_unique<AssignVar>(variable(target.name, line), std::move(value), isSet), line);
+            return at(std::make_unique<AssignLocal>(r.slot, std::move(value), n.flag), line);
+        if (r.kind == NameKind::Constant)
+            return illegalAssignment(target.name, line);
+        return at(std::make_unique<AssignVar>(variable(target.name, line), std::move(value), n.flag), line);
     }
     case Syn::Member:
-    case Syn::WithMember: {
-        auto s = std::make_unique<AssignMember>();
-        if (target.kind == Syn::Member) {
-            s->objectName = describe(*target.kids[0]);
-            s->object = expr(*target.kids[0]);
-        } else {
-            s->object = withObject(line);
-        }
-        s->name = target.name;
-        s->value = expr(*n.kids[1]);
-        s->isSet = isSet;
-        return at(std::move(s), line);
-    }
+    case Syn::WithMember:
+        return memberAssignment(target, {}, n);
     case Syn::Call: {
         SyntaxNode& c = *target.kids[0];
-        if (c.kind == Syn::Member || c.kind == Syn::WithMember) {
-            auto s = std::make_unique<AssignMember>();
-            if (c.kind == Syn::Member) {
-                s->objectName = describe(*c.kids[0]);
-                s->object = expr(*c.kids[0]);
-            } else {
-                s->object = withObject(line);
-            }
-            s->name = c.name;
-            s->args = arguments(target.kids, 1);
-            s->value = expr(*n.kids[1]);
-            s->isSet = isSet;
-            return at(std::move(s), line);
-        }
-        auto s = std::make_unique<AssignIndex>();
-        if (c.kind == Syn::Name) {
-            Resolved r = resolve(c.name, true);
-            switch (r.kind) {
-            case NameKind::Local: s->target = at(std::make_unique<LocalGet>(r.slot), line); break;
-            case NameKind::RefParam: s->target = at(std::make_unique<RefParamGet>(r.slot), line); break;
-            case NameKind::Constant: {
-                auto raiseIt = std::make_unique<RaiseStmt>();
-                raiseIt->number = errc::IllegalAssignment;
-                raiseIt->name = c.name;
-                return at(std::move(raiseIt), line);
-            }
-            case NameKind::Builtin: s->target = at(std::make_unique<GlobalGet>(&moduleGlobal(c.name)), line); break;
-            default: s->target = at(std::make_unique<GlobalGet>(r.global), line); break;
-            }
-            s->name = c.name;
-        } else {
-            s->target = expr(c);
-            s->name = describe(c);
-        }
-        s->args = arguments(target.kids, 1);
-        s->value = expr(*n.kids[1]);
-        s->isSet = isSet;
-        return at(std::move(s), line);
+        if (c.kind == Syn::Member || c.kind == Syn::WithMember)
+            return memberAssignment(c, target.kids, n);
+        return indexAssignment(target, n);
     }
     default:
         fail(errc::IllegalAssignment, line);
     }
 }
 
-StmtPtr Compiler::callStatement(SyntaxNode& n)
+// obj.name = v, or obj.name(argKids[1..]) = v.
+StmtPtr Compiler::memberAssignment(SyntaxNode& target, const std::vector<SyntaxPtr>& argKids, SyntaxNode& n)
 {
-    SyntaxNode& target = *n.kids[0];
+    auto s = std::make_unique<AssignMember>();
+    if (target.kind == Syn::Member) {
+        s->objectName = describe(*target.kids[0]);
+        s->object = expr(*target.kids[0]);
+    } else {
+        s->object = withObject(n.line);
+    }
+    s->name = target.name;
+    s->args = arguments(argKids, 1);
+    s->value = expr(*n.kids[1]);
+    s->isSet = n.flag;
+    return at(std::move(s), n.line);
+}
+
+// a(i) = v: an array element, or the default member of an object.
+StmtPtr Compiler::indexAssignment(SyntaxNode& call, SyntaxNode& n)
+{
+    SyntaxNode& c = *call.kids[0];
     int line = n.line;
-    ExprPtr e;
-    switch (target.kind) {
-    case Syn::Name:
-        e = nameCall(target, n.kids, 1, true, line);
-        break;
-    case Syn::Member: {
-        std::string objectName = describe(*target.kids[0]);
-        ExprPtr object = expr(*target.kids[0]);
-        e = at(std::make_unique<MemberExpr>(std::move(object), target.name, arguments(n.kids, 1), true,
-                                            std::move(objectName)),
-               line);
-        break;
+    auto s = std::make_unique<AssignIndex>();
+    if (c.kind == Syn::Name) {
+        Resolved r = resolve(c.name, true);
+        switch (r.kind) {
+        case NameKind::Local: s->target = at(std::make_unique<LocalGet>(r.slot), line); break;
+        case NameKind::RefParam: s->target = at(std::make_unique<RefParamGet>(r.slot), line); break;
+        case NameKind::Constant: return illegalAssignment(c.name, line);
+        case NameKind::Builtin: s->target = at(std::make_unique<GlobalGet>(&moduleGlobal(c.name)), line); break;
+        default: s->target = at(std::make_unique<GlobalGet>(r.global), line); break;
+        }
+        s->name = c.name;
+    } else {
+        s->target = expr(c);
+        s->name = describe(c);
     }
-    case Syn::WithMember:
-        e = at(std::make_unique<MemberExpr>(withObject(line), target.name, arguments(n.kids, 1), true, ""), line);
-        break;
-    default: {
-        ExprPtr t = expr(target);
-        e = at(std::make_unique<IndexExpr>(std::move(t), arguments(n.kids, 1), describe(target)), line);
-        break;
-    }
-    }
-    return at(std::make_unique<ExprStmt>(std::move(e)), line);
+    s->args = arguments(call.kids, 1);
+    s->value = expr(*n.kids[1]);
+    s->isSet = n.flag;
+    return at(std::move(s), line);
 }
 
 StmtPtr Compiler::statement(SyntaxNode& n)
 {
     int line = n.line;
     switch (n.kind) {
-    case Syn::Assign:
-        return assignment(n);
-    case Syn::CallStmt:
-        return callStatement(n);
+    case Syn::Assign: return assignment(n);
+    case Syn::CallStmt: return at(std::make_unique<ExprStmt>(callee(n, true)), line);
     case Syn::Const:
-        if (!scope_->top) {
-            for (auto& item : n.kids) {
-                auto v = fold(*item->kids[0]);
-                if (!v)
-                    fail(errc::ExpectedLiteral, item->line);
-                std::string key = lowerAscii(item->name);
-                if (scope_->names.count(key))
-                    fail(errc::NameRedefined, item->line, item->name);
-                Local l;
-                l.kind = LocalKind::Const;
-                l.constant = *v;
-                scope_->names.emplace(key, l);
-            }
-        }
+        if (!scope_->top)
+            localConstants(n);
         return nullptr;  // top-level constants were set before compiling
-    case Syn::ReDim: {
-        auto b = std::make_unique<Block>();
-        b->line = line;
-        for (auto& item : n.kids) {
-            auto s = std::make_unique<ReDimStmt>();
-            s->line = item->line;
-            s->var = variable(item->name, item->line);
-            s->bounds = arguments(item->kids, 0);
-            s->preserve = n.flag;
-            s->name = item->name;
-            b->body.push_back(std::move(s));
-        }
-        return b;
-    }
-    case Syn::If: {
-        auto s = std::make_unique<IfStmt>();
-        std::size_t pairs = (n.kids.size() - (n.flag ? 1 : 0)) / 2;
-        for (std::size_t i = 0; i < pairs; ++i) {
-            s->conditions.push_back(expr(*n.kids[2 * i]));
-            s->blocks.push_back(block(*n.kids[2 * i + 1]));
-        }
-        if (n.flag)
-            s->blocks.push_back(block(*n.kids.back()));
-        return at(std::move(s), line);
-    }
-    case Syn::For: {
-        auto s = std::make_unique<ForStmt>();
-        s->var = variable(n.name, line);
-        s->start = expr(*n.kids[0]);
-        s->limit = expr(*n.kids[1]);
-        if (n.kids[2])
-            s->step = expr(*n.kids[2]);
-        s->limitSlot = scope_->newSlot();
-        s->stepSlot = scope_->newSlot();
-        s->body = block(*n.kids[3]);
-        return at(std::move(s), line);
-    }
-    case Syn::ForEach: {
-        auto s = std::make_unique<ForEachStmt>();
-        s->var = variable(n.name, line);
-        s->collection = expr(*n.kids[0]);
-        s->body = block(*n.kids[1]);
-        return at(std::move(s), line);
-    }
-    case Syn::Do: {
-        auto s = std::make_unique<DoStmt>();
-        s->kind = DoKind(n.op);
-        s->whileWend = n.flag;
-        if (n.kids[0]) {
-            s->conditionLine = n.kids[0]->line;
-            s->condition = expr(*n.kids[0]);
-        }
-        s->body = block(*n.kids[1]);
-        return at(std::move(s), line);
-    }
-    case Syn::Select: {
-        auto s = std::make_unique<SelectStmt>();
-        s->subject = expr(*n.kids[0]);
-        for (std::size_t i = 1; i < n.kids.size(); ++i) {
-            SyntaxNode& c = *n.kids[i];
-            SelectStmt::Case sc;
-            sc.line = c.line;
-            for (std::size_t k = 1; k < c.kids.size(); ++k) {
-                SyntaxNode& it = *c.kids[k];
-                SelectStmt::Item item;
-                item.kind = it.op;
-                item.op = it.op == 2 ? compareOf(BinOp(it.op2)) : Compare::Eq;
-                item.a = expr(*it.kids[0]);
-                item.literal = item.a->isLiteral();
-                if (it.op == 1)
-                    item.b = expr(*it.kids[1]);
-                sc.items.push_back(std::move(item));
-            }
-            sc.body = block(*c.kids[0]);
-            s->cases.push_back(std::move(sc));
-        }
-        return at(std::move(s), line);
-    }
+    case Syn::ReDim: return redim(n);
+    case Syn::If: return ifStatement(n);
+    case Syn::For: return forStatement(n);
+    case Syn::ForEach: return forEachStatement(n);
+    case Syn::Do: return doStatement(n);
+    case Syn::Select: return selectStatement(n);
     case Syn::Exit: {
-        Flow fl = Flow::ExitProc;
-        if (ExitKind(n.op) == ExitKind::For)
-            fl = Flow::ExitFor;
-        else if (ExitKind(n.op) == ExitKind::Do)
-            fl = Flow::ExitDo;
+        ExitKind k = ExitKind(n.op);
+        Flow fl = k == ExitKind::For ? Flow::ExitFor : k == ExitKind::Do ? Flow::ExitDo : Flow::ExitProc;
         return at(std::make_unique<ExitStmt>(fl), line);
     }
-    case Syn::OnError:
-        return at(std::make_unique<OnErrorStmt>(n.flag), line);
+    case Syn::OnError: return at(std::make_unique<OnErrorStmt>(n.flag), line);
     case Syn::Erase: {
         auto s = std::make_unique<EraseStmt>();
         s->var = variable(n.kids[0]->name, line);
         s->name = n.kids[0]->name;
         return at(std::move(s), line);
     }
-    case Syn::With: {
-        auto s = std::make_unique<WithStmt>();
-        s->object = expr(*n.kids[0]);
-        s->slot = scope_->newSlot();
-        scope_->withSlots.push_back(s->slot);
-        s->body = block(*n.kids[1]);
-        scope_->withSlots.pop_back();
-        return at(std::move(s), line);
-    }
+    case Syn::With: return withStatement(n);
     case Syn::OptionExplicit:
         chunk_->optionExplicit = true;
         return nullptr;
-    case Syn::Block:
-        return block(n);
-    default:
-        fail(errc::SyntaxError, line);
+    case Syn::Block: return block(n);
+    default: fail(errc::SyntaxError, line);
     }
+}
+
+void Compiler::localConstants(SyntaxNode& n)
+{
+    for (auto& item : n.kids) {
+        auto v = fold(*item->kids[0]);
+        if (!v)
+            fail(errc::ExpectedLiteral, item->line);
+        std::string key = lowerAscii(item->name);
+        if (scope_->names.count(key))
+            fail(errc::NameRedefined, item->line, item->name);
+        Local l;
+        l.kind = LocalKind::Const;
+        l.constant = *v;
+        scope_->names.emplace(key, l);
+    }
+}
+
+StmtPtr Compiler::redim(SyntaxNode& n)
+{
+    auto b = std::make_unique<Block>();
+    b->line = n.line;
+    for (auto& item : n.kids) {
+        auto s = std::make_unique<ReDimStmt>();
+        s->line = item->line;
+        s->var = variable(item->name, item->line);
+        s->bounds = arguments(item->kids, 0);
+        s->preserve = n.flag;
+        s->name = item->name;
+        b->body.push_back(std::move(s));
+    }
+    return b;
+}
+
+StmtPtr Compiler::ifStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<IfStmt>();
+    std::size_t pairs = (n.kids.size() - (n.flag ? 1 : 0)) / 2;
+    for (std::size_t i = 0; i < pairs; ++i) {
+        s->conditions.push_back(expr(*n.kids[2 * i]));
+        s->blocks.push_back(block(*n.kids[2 * i + 1]));
+    }
+    if (n.flag)
+        s->blocks.push_back(block(*n.kids.back()));
+    return at(std::move(s), n.line);
+}
+
+StmtPtr Compiler::forStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<ForStmt>();
+    s->var = variable(n.name, n.line);
+    s->start = expr(*n.kids[0]);
+    s->limit = expr(*n.kids[1]);
+    if (n.kids[2])
+        s->step = expr(*n.kids[2]);
+    s->limitSlot = scope_->newSlot();
+    s->stepSlot = scope_->newSlot();
+    s->body = block(*n.kids[3]);
+    return at(std::move(s), n.line);
+}
+
+StmtPtr Compiler::forEachStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<ForEachStmt>();
+    s->var = variable(n.name, n.line);
+    s->collection = expr(*n.kids[0]);
+    s->body = block(*n.kids[1]);
+    return at(std::move(s), n.line);
+}
+
+StmtPtr Compiler::doStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<DoStmt>();
+    s->kind = DoKind(n.op);
+    s->whileWend = n.flag;
+    if (n.kids[0]) {
+        s->conditionLine = n.kids[0]->line;
+        s->condition = expr(*n.kids[0]);
+    }
+    s->body = block(*n.kids[1]);
+    return at(std::move(s), n.line);
+}
+
+StmtPtr Compiler::selectStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<SelectStmt>();
+    s->subject = expr(*n.kids[0]);
+    for (std::size_t i = 1; i < n.kids.size(); ++i) {
+        SyntaxNode& c = *n.kids[i];
+        SelectStmt::Case sc;
+        sc.line = c.line;
+        for (std::size_t k = 1; k < c.kids.size(); ++k) {
+            SyntaxNode& it = *c.kids[k];
+            SelectStmt::Item item;
+            item.kind = it.op;
+            item.op = it.op == 2 ? compareOf(BinOp(it.op2)) : Compare::Eq;
+            item.a = expr(*it.kids[0]);
+            item.literal = item.a->isLiteral();
+            if (it.op == 1)
+                item.b = expr(*it.kids[1]);
+            sc.items.push_back(std::move(item));
+        }
+        sc.body = block(*c.kids[0]);
+        s->cases.push_back(std::move(sc));
+    }
+    return at(std::move(s), n.line);
+}
+
+StmtPtr Compiler::withStatement(SyntaxNode& n)
+{
+    auto s = std::make_unique<WithStmt>();
+    s->object = expr(*n.kids[0]);
+    s->slot = scope_->newSlot();
+    scope_->withSlots.push_back(s->slot);
+    s->body = block(*n.kids[1]);
+    scope_->withSlots.pop_back();
+    return at(std::move(s), n.line);
 }
 
 StmtPtr Compiler::procedure(SyntaxNode& n, Procedure& p)
@@ -683,7 +703,28 @@ std::unique_ptr<Chunk> Compiler::compile(Program& program)
     explicit_ = program.optionExplicit || rt_.optionExplicit;
     Scope top;
     scope_ = &top;
+    declareModuleNames(program);
+    for (auto& syn : program.procedures) {
+        auto& proc = newProcedures_.at(lowerAscii(syn->name));
+        proc->body = procedure(*syn, *proc);
+        chunk->procedures.push_back(proc);
+    }
+    chunk->body = block(*program.body);
+    chunk->topLocals = top.count;
+    for (const auto& name : newVariables_)
+        chunk->variables.push_back(rt_.findGlobal(name));
+    if (program.optionExplicit)
+        chunk->optionExplicit = true;
+    scope_ = nullptr;
+    chunk_ = nullptr;
+    return chunk;
+}
 
+// The text's procedures, module-level Dim and Const, and the names its top
+// level assigns: known before any body is compiled, so that a procedure
+// sees the module names declared below it.
+void Compiler::declareModuleNames(Program& program)
+{
     for (auto& syn : program.procedures) {
         std::string key = lowerAscii(syn->name);
         if (newProcedures_.count(key))
@@ -708,7 +749,7 @@ std::unique_ptr<Chunk> Compiler::compile(Program& program)
                 if (!v)
                     fail(errc::ExpectedLiteral, item->line);
                 newConstants_.emplace(key, *v);
-                chunk->constants.emplace_back(&moduleGlobal(item->name), *v);
+                chunk_->constants.emplace_back(&moduleGlobal(item->name), *v);
             }
         }
     });
@@ -719,20 +760,6 @@ std::unique_ptr<Chunk> Compiler::compile(Program& program)
         collectAssigned(*program.body, probe);
         topAssigned_ = std::move(probe.assigned);
     }
-    for (auto& syn : program.procedures) {
-        auto& proc = newProcedures_.at(lowerAscii(syn->name));
-        proc->body = procedure(*syn, *proc);
-        chunk->procedures.push_back(proc);
-    }
-    chunk->body = block(*program.body);
-    chunk->topLocals = top.count;
-    for (const auto& name : newVariables_)
-        chunk->variables.push_back(rt_.findGlobal(name));
-    if (program.optionExplicit)
-        chunk->optionExplicit = true;
-    scope_ = nullptr;
-    chunk_ = nullptr;
-    return chunk;
 }
 
 ExprPtr Compiler::compileExpression(SyntaxNode& e, int& topLocals)

@@ -58,24 +58,40 @@ private:
     };
 
     Resolved resolve(const std::string& name, bool forCall);
+    bool resolveLocal(const std::string& key, bool forCall, Resolved& r);
+    bool resolveModule(const std::string& name, const std::string& key, Resolved& r);
     Global& moduleGlobal(const std::string& name);
     VarRef variable(const std::string& name, int line);
     std::optional<Value> fold(const SyntaxNode& n);
     void collectAssigned(const SyntaxNode& n, Scope& scope);
+    void declareModuleNames(Program& program);
 
     ExprPtr expr(SyntaxNode& n);
+    ExprPtr name(SyntaxNode& n);
+    ExprPtr binary(SyntaxNode& n);
     ExprPtr callee(SyntaxNode& call, bool asStatement);
-    ExprPtr nameCall(SyntaxNode& nameNode, std::vector<std::unique_ptr<SyntaxNode>>& args, std::size_t first,
-                     bool asStatement, int line);
-    ExprList arguments(std::vector<std::unique_ptr<SyntaxNode>>& kids, std::size_t first);
+    ExprPtr nameCall(SyntaxNode& nameNode, std::vector<SyntaxPtr>& args, std::size_t first, bool asStatement,
+                     int line);
+    ExprPtr member(SyntaxNode& target, const std::vector<SyntaxPtr>& argKids, bool asStatement, int line);
+    ExprList arguments(const std::vector<SyntaxPtr>& kids, std::size_t first);
     ExprPtr withObject(int line);
     std::string describe(const SyntaxNode& n) const;
 
     StmtPtr block(SyntaxNode& n);
     StmtPtr statement(SyntaxNode& n);
     StmtPtr assignment(SyntaxNode& n);
-    StmtPtr callStatement(SyntaxNode& n);
+    StmtPtr memberAssignment(SyntaxNode& target, const std::vector<SyntaxPtr>& argKids, SyntaxNode& n);
+    StmtPtr indexAssignment(SyntaxNode& call, SyntaxNode& n);
+    StmtPtr illegalAssignment(const std::string& name, int line);
     void declare(SyntaxNode& dim, std::vector<StmtPtr>& out);
+    void localConstants(SyntaxNode& n);
+    StmtPtr redim(SyntaxNode& n);
+    StmtPtr ifStatement(SyntaxNode& n);
+    StmtPtr forStatement(SyntaxNode& n);
+    StmtPtr forEachStatement(SyntaxNode& n);
+    StmtPtr doStatement(SyntaxNode& n);
+    StmtPtr selectStatement(SyntaxNode& n);
+    StmtPtr withStatement(SyntaxNode& n);
     StmtPtr procedure(SyntaxNode& n, Procedure& p);
 
     template <class T>

@@ -24,11 +24,6 @@ private:
     Value* base_;
 };
 
-ScriptError internalError(int number)
-{
-    return makeScriptError(number);
-}
-
 template <class F>
 RunResult guarded(Runtime& rt, F&& f)
 {
@@ -42,10 +37,10 @@ RunResult guarded(Runtime& rt, F&& f)
             e.line = rt.line;
         result.error = std::move(e);
     } catch (const std::bad_alloc&) {
-        result.error = internalError(errc::OutOfMemory);
+        result.error = makeScriptError(errc::OutOfMemory);
         result.error->line = rt.line;
     } catch (const std::length_error&) {
-        result.error = internalError(errc::OutOfMemory);
+        result.error = makeScriptError(errc::OutOfMemory);
         result.error->line = rt.line;
     }
     return result;
@@ -107,7 +102,7 @@ RunResult Module::addCode(std::string_view text)
     } catch (ScriptError& e) {
         return finish(RunResult{Value(), std::move(e)});
     } catch (const std::bad_alloc&) {
-        return finish(RunResult{Value(), internalError(errc::OutOfMemory)});
+        return finish(RunResult{Value(), makeScriptError(errc::OutOfMemory)});
     }
     return finish(guarded(*rt_, [&]() {
         TopFrame top(*rt_, chunk->topLocals);

@@ -43,13 +43,32 @@ Value numericForLoop(const Value& v)
     return n;
 }
 
-}  // namespace
-
-bool Expr::test(Frame& f) const
+// One turn of a For or For Each body; the loop's way out when it ends
+// there (Exit For ends the loop itself, nothing beyond it).
+inline std::optional<Flow> turn(const Stmt& body, int forLine, Frame& f)
 {
-    Value c = eval(f);
-    return c.type() == Type::Boolean ? c.asBool() : isTrue(c);
+    Flow fl = body.exec(f);
+    if (fl == Flow::ExitFor)
+        return Flow::Normal;
+    if (fl != Flow::Normal)
+        return fl;
+    f.rt->tick();
+    f.rt->line = forLine;
+    return std::nullopt;
 }
+
+// counter = counter + step at the end of a turn.
+inline void stepCounter(Value& counter, const Value& by)
+{
+    if (counter.isInteger() && by.isInteger()) {
+        std::int64_t n = std::int64_t(counter.asInt()) + by.asInt();
+        counter = wholeResult(n, counter.type() == Type::Integer && by.type() == Type::Integer);
+    } else {
+        counter = add(numericForLoop(counter), by);
+    }
+}
+
+}  // namespace
 
 Operand::Operand(ExprPtr e) : expr(std::move(e))
 {
@@ -191,28 +210,33 @@ Value MemberExpr::eval(Frame& f) const
     return f.rt->getMember(o, name, values.span(), asStatement, objectName);
 }
 
-bool testResuming(const Expr& condition, Frame& f)
+namespace {
+
+// On Error Resume Next: an error that is not fatal goes to Err, and the
+// script goes on as if the failed step had given `resumed`.
+template <class R, class F>
+R resumeOnError(Frame& f, R resumed, F&& step)
 {
     try {
-        return condition.test(f);
+        return step();
     } catch (const ScriptError& e) {
         if (e.fatal)
             throw;
         f.rt->recordError(e);
-        return true;
+        return resumed;
     }
+}
+
+}  // namespace
+
+bool testResuming(const Expr& condition, Frame& f)
+{
+    return resumeOnError(f, true, [&] { return condition.test(f); });
 }
 
 Flow Block::guarded(const Stmt& s, Frame& f)
 {
-    try {
-        return s.exec(f);
-    } catch (const ScriptError& e) {
-        if (e.fatal)
-            throw;
-        f.rt->recordError(e);
-        return Flow::Normal;
-    }
+    return resumeOnError(f, Flow::Normal, [&] { return s.exec(f); });
 }
 
 Flow AssignVar::exec(Frame& f) const
@@ -271,71 +295,59 @@ Flow ForStmt::exec(Frame& f) const
         f.rt->writeGlobal(*var.global, std::move(from), false);
     else
         var.storage(f) = std::move(from);
-    int forLine = line;
     if (var.kind == VarRef::Local && to.isInteger() && by.isInteger()) {
-        // A local counter with whole-number bounds: the common loop, kept tight.
-        Value* slotp = &f.locals[var.slot];
-        const std::int32_t limit32 = to.asInt(), step32 = by.asInt();
-        const bool integerStep = by.type() == Type::Integer;
-        for (;;) {
-            Value& cur = *slotp;
-            if (!cur.isInteger())
-                break;  // the body stored something else: finish on the general path
-            std::int32_t c = cur.asInt();
-            if (up ? c > limit32 : c < limit32)
-                return Flow::Normal;
-            Flow fl = body->exec(f);
-            if (fl == Flow::ExitFor)
-                return Flow::Normal;
-            if (fl != Flow::Normal)
-                return fl;
-            f.rt->tick();
-            f.rt->line = forLine;
-            Value& after = *slotp;
-            if (!after.isInteger()) {
-                after = add(numericForLoop(after), by);
-                continue;
-            }
-            std::int64_t n = std::int64_t(after.asInt()) + step32;
-            if (after.type() == Type::Integer && integerStep && n >= -32768 && n <= 32767)
-                after = Value::integer(std::int32_t(n));
-            else if (n >= INT32_MIN && n <= INT32_MAX)
-                after = Value::longValue(std::int32_t(n));
-            else
-                after = Value::dbl(double(n));
-        }
+        if (std::optional<Flow> done = runLocalCounter(f, up))
+            return *done;
     }
+    return runGeneral(f, up);
+}
+
+// A local counter with whole-number bounds: the common loop, kept tight.
+// Nothing when the body stored something else in the counter: the general
+// loop finishes the work.
+std::optional<Flow> ForStmt::runLocalCounter(Frame& f, bool up) const
+{
+    Value& counter = f.locals[var.slot];
+    const Value& by = f.locals[stepSlot];
+    const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
+    const bool integerStep = by.type() == Type::Integer;
+    const Stmt& statements = *body;
+    const int forLine = line;
     for (;;) {
-        // The counter is the variable itself: the body may change it.
-        Value& counter = var.kind == VarRef::Global ? var.storage(f) : var.storage(f);
+        if (!counter.isInteger())
+            return std::nullopt;
+        std::int32_t c = counter.asInt();
+        if (up ? c > to : c < to)
+            return Flow::Normal;
+        if (std::optional<Flow> done = turn(statements, forLine, f))
+            return done;
+        if (!counter.isInteger()) {
+            stepCounter(counter, by);
+            return std::nullopt;
+        }
+        counter = wholeResult(std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep);
+    }
+}
+
+// Any counter, any bounds. The counter is the variable itself, read again
+// each turn: the body may change it.
+Flow ForStmt::runGeneral(Frame& f, bool up) const
+{
+    const Value& to = f.locals[limitSlot];
+    const Value& by = f.locals[stepSlot];
+    for (;;) {
+        Value& counter = var.storage(f);
         int c;
         if (counter.isInteger() && to.isInteger())
             c = counter.asInt() < to.asInt() ? -1 : counter.asInt() > to.asInt();
         else
             c = compareValues(numericForLoop(counter), to, NoLiteral, false);
         if (up ? c > 0 : c < 0)
-            break;
-        Flow fl = body->exec(f);
-        if (fl == Flow::ExitFor)
-            break;
-        if (fl != Flow::Normal)
-            return fl;
-        f.rt->tick();
-        f.rt->line = forLine;
-        Value& cur = var.storage(f);
-        if (cur.isInteger() && by.isInteger()) {
-            std::int64_t n = std::int64_t(cur.asInt()) + by.asInt();
-            if (cur.type() == Type::Integer && by.type() == Type::Integer && n >= -32768 && n <= 32767)
-                cur = Value::integer(std::int32_t(n));
-            else if (n >= INT32_MIN && n <= INT32_MAX)
-                cur = Value::longValue(std::int32_t(n));
-            else
-                cur = Value::dbl(double(n));
-        } else {
-            cur = add(numericForLoop(cur), by);
-        }
+            return Flow::Normal;
+        if (std::optional<Flow> done = turn(*body, line, f))
+            return *done;
+        stepCounter(var.storage(f), by);
     }
-    return Flow::Normal;
 }
 
 Flow ForEachStmt::exec(Frame& f) const
@@ -360,20 +372,13 @@ Flow ForEachStmt::exec(Frame& f) const
     } else {
         raise(errc::TypeMismatch);
     }
-    const ArrayRep* a = items.asArray();
-    int forLine = line;
-    for (const Value& item : a->items) {
+    for (const Value& item : items.asArray()->items) {
         if (var.kind == VarRef::Global)
             f.rt->writeGlobal(*var.global, item, item.isObject());
         else
             var.storage(f) = item;
-        Flow fl = body->exec(f);
-        if (fl == Flow::ExitFor)
-            break;
-        if (fl != Flow::Normal)
-            return fl;
-        f.rt->tick();
-        f.rt->line = forLine;
+        if (std::optional<Flow> done = turn(*body, line, f))
+            return *done;
     }
     return Flow::Normal;
 }

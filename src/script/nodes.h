@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "script/builtins.h"
+#include "script/code.h"
 #include "script/operations.h"
 #include "script/runtime.h"
 #include "script/syntax.h"
@@ -127,26 +130,20 @@ struct Operand {
     const Value& a = *pa;                                            \
     const Value& b = right.get(f, tb)
 
-// Arithmetic and comparison with the whole-number fast path inline: the
-// loops menus run are mostly counters.
-// Stores a whole-number result in out with the language's promotion
-// (Integer, then Long); false when it needs a Double.
-inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
-{
-    if (integerOperands && n >= -32768 && n <= 32767) {
-        out = Value::integer(std::int32_t(n));
-        return true;
-    }
-    if (n >= INT32_MIN && n <= INT32_MAX) {
-        out = Value::longValue(std::int32_t(n));
-        return true;
-    }
-    return false;
-}
-
-struct AddExpr final : Expr {
+// a + b and a - b with the whole-number fast path inline: the loops menus
+// run are mostly counters.
+template <bool Subtract>
+struct AddSubExpr final : Expr {
     Operand left, right;
-    AddExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    AddSubExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
+    static std::int64_t combine(const Value& a, const Value& b)
+    {
+        return Subtract ? std::int64_t(a.asInt()) - b.asInt() : std::int64_t(a.asInt()) + b.asInt();
+    }
+    static bool bothInteger(const Value& a, const Value& b)
+    {
+        return a.type() == Type::Integer && b.type() == Type::Integer;
+    }
     // local = a + b on locals and literals, computed in place.
     bool intoLocal(Frame& f, Value& out) const
     {
@@ -157,59 +154,26 @@ struct AddExpr final : Expr {
         const Value& b = right.get(f, tb);
         if (!a.isInteger() || !b.isInteger())
             return false;
-        return storeWhole(out, std::int64_t(a.asInt()) + b.asInt(),
-                          a.type() == Type::Integer && b.type() == Type::Integer);
+        return storeWhole(out, combine(a, b), bothInteger(a, b));
     }
     Value eval(Frame& f) const override
     {
         QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger()) {
-            std::int64_t n = std::int64_t(a.asInt()) + b.asInt();
-            if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
-                if (n >= INT32_MIN && n <= INT32_MAX)
-                    return Value::longValue(std::int32_t(n));
-            } else {
-                return Value::integer(std::int32_t(n));
-            }
-        } else if (a.type() == Type::Double && b.type() == Type::Double) {
-            double d = a.asDouble() + b.asDouble();
-            if (d - d == 0)
-                return Value::dbl(d);
-        }
-        return add(a, b);
-    }
-};
-
-struct SubExpr final : Expr {
-    Operand left, right;
-    SubExpr(ExprPtr a, ExprPtr b) : left(std::move(a)), right(std::move(b)) {}
-    bool intoLocal(Frame& f, Value& out) const
-    {
-        if (!left.simple() || !right.simple())
-            return false;
-        Value ta, tb;
-        const Value& a = left.get(f, ta);
-        const Value& b = right.get(f, tb);
-        if (!a.isInteger() || !b.isInteger())
-            return false;
-        return storeWhole(out, std::int64_t(a.asInt()) - b.asInt(),
-                          a.type() == Type::Integer && b.type() == Type::Integer);
-    }
-    Value eval(Frame& f) const override
-    {
-        QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger()) {
-            std::int64_t n = std::int64_t(a.asInt()) - b.asInt();
-            if (a.type() == Type::Long || b.type() == Type::Long || n < -32768 || n > 32767) {
-                if (n >= INT32_MIN && n <= INT32_MAX)
-                    return Value::longValue(std::int32_t(n));
-            } else {
-                return Value::integer(std::int32_t(n));
+        // Whole numbers give what add or subtract would, without the detour.
+        if (a.isInteger() && b.isInteger())
+            return wholeResult(combine(a, b), bothInteger(a, b));
+        if constexpr (!Subtract) {
+            if (a.type() == Type::Double && b.type() == Type::Double) {
+                double d = a.asDouble() + b.asDouble();
+                if (d - d == 0)
+                    return Value::dbl(d);
             }
         }
-        return subtract(a, b);
+        return Subtract ? subtract(a, b) : add(a, b);
     }
 };
+using AddExpr = AddSubExpr<false>;
+using SubExpr = AddSubExpr<true>;
 
 struct CompareExpr final : Expr {
     Compare op;
@@ -255,8 +219,6 @@ struct ConcatExpr final : Expr {
         return concat(a, b);
     }
 };
-
-using BuiltinFn = Value (*)(Runtime&, std::span<Value>);
 
 struct BuiltinCall final : Expr {
     BuiltinFn fn;
@@ -307,15 +269,9 @@ struct Block final : Stmt {
     {
         for (const auto& s : body) {
             f.rt->line = s->line;
-            if (!f.resumeNext) {
-                Flow fl = s->exec(f);
-                if (fl != Flow::Normal)
-                    return fl;
-            } else {
-                Flow fl = guarded(*s, f);
-                if (fl != Flow::Normal)
-                    return fl;
-            }
+            Flow fl = f.resumeNext ? guarded(*s, f) : s->exec(f);
+            if (fl != Flow::Normal)
+                return fl;
         }
         return Flow::Normal;
     }
@@ -414,12 +370,18 @@ struct IfStmt final : Stmt {
     }
 };
 
+// For var = start To limit Step step: the limit and the step are worked
+// out once, into hidden slots.
 struct ForStmt final : Stmt {
     VarRef var;
     ExprPtr start, limit, step;
     StmtPtr body;
     int limitSlot, stepSlot;
     Flow exec(Frame& f) const override;
+
+private:
+    std::optional<Flow> runLocalCounter(Frame& f, bool up) const;
+    Flow runGeneral(Frame& f, bool up) const;
 };
 
 struct ForEachStmt final : Stmt {

@@ -28,15 +28,6 @@ int rank(Type t)
     }
 }
 
-Value fromRankedInt(std::int64_t n, int r)
-{
-    if (r == 0 && n >= -32768 && n <= 32767)
-        return Value::integer(std::int32_t(n));
-    if (n >= INT32_MIN && n <= INT32_MAX)
-        return Value::longValue(std::int32_t(n));
-    return Value::dbl(double(n));
-}
-
 Value checkedDouble(double d, Type t = Type::Double)
 {
     if (!std::isfinite(d))
@@ -70,7 +61,7 @@ Value arithmetic(Arith op, const Value& a0, const Value& b0)
     if (r <= 1) {
         std::int64_t x = a.asInt(), y = b.asInt();
         std::int64_t n = op == Arith::Add ? x + y : op == Arith::Sub ? x - y : x * y;
-        return fromRankedInt(n, r);
+        return wholeResult(n, r == 0);
     }
     double x = numberOf(a), y = numberOf(b);
     double d = op == Arith::Add ? x + y : op == Arith::Sub ? x - y : x * y;
@@ -155,6 +146,98 @@ Value logical(const Value& a0, const Value& b0, F f, int nullCase)
 
 double roundHalfEven(double d) { return std::nearbyint(d); }
 
+int digitValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return 99;
+}
+
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// "&H1F" or "&O17": 16-bit values read as Integers, so "&HFFFF" is -1.
+std::optional<double> parseRadix(std::string_view text)
+{
+    char k = text[1];
+    int base = (k == 'h' || k == 'H') ? 16 : (k == 'o' || k == 'O') ? 8 : 0;
+    if (base == 0 || text.size() == 2)
+        return std::nullopt;
+    std::uint64_t v = 0;
+    for (char c : text.substr(2)) {
+        int d = digitValue(c);
+        if (d >= base)
+            return std::nullopt;
+        v = v * std::uint64_t(base) + std::uint64_t(d);
+        if (v > 0xFFFFFFFFull)
+            return std::nullopt;
+    }
+    return v <= 0xFFFF ? double(std::int16_t(v)) : double(std::int32_t(std::uint32_t(v)));
+}
+
+// Where the decimal number at the start of text ends: digits, "." digits,
+// then an exponent (E or D, sign, digits); npos when it has no digit or a
+// bare exponent.
+std::size_t decimalEnd(std::string_view text, bool& dExponent)
+{
+    std::size_t i = 0, n = text.size();
+    bool any = false;
+    for (; i < n && isDigit(text[i]); ++i)
+        any = true;
+    if (i < n && text[i] == '.')
+        for (++i; i < n && isDigit(text[i]); ++i)
+            any = true;
+    if (!any)
+        return std::string_view::npos;
+    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        dExponent = text[i] == 'd' || text[i] == 'D';
+        std::size_t j = i + 1;
+        if (j < n && (text[j] == '+' || text[j] == '-'))
+            ++j;
+        std::size_t digits = j;
+        while (j < n && isDigit(text[j]))
+            ++j;
+        if (j == digits)
+            return std::string_view::npos;
+        i = j;
+    }
+    return i;
+}
+
+// Validate in place, then convert the span at once: long numeric texts
+// are read in linear time.
+std::optional<double> parseDecimal(std::string_view text)
+{
+    bool dExponent = false;
+    if (decimalEnd(text, dExponent) != text.size())
+        return std::nullopt;
+    // Leading zeros change nothing but cost the converter dearly on long texts.
+    std::size_t begin = 0;
+    while (begin + 1 < text.size() && text[begin] == '0' && isDigit(text[begin + 1]))
+        ++begin;
+    std::string copy;
+    std::string_view number = text.substr(begin);
+    if (dExponent) {
+        copy = std::string(number);
+        for (char& c : copy)
+            if (c == 'd' || c == 'D')
+                c = 'e';
+        number = copy;
+    }
+    double d = 0;
+    std::from_chars_result r = std::from_chars(number.data(), number.data() + number.size(), d);
+    if (r.ec != std::errc() || !std::isfinite(d))
+        return std::nullopt;
+    return d;
+}
+
+}  // namespace
+
 std::optional<double> parseNumeric(std::string_view text)
 {
     std::size_t i = 0, n = text.size();
@@ -171,83 +254,11 @@ std::optional<double> parseNumeric(std::string_view text)
         while (i < n && isBlank(text[i]))
             ++i;
     }
-    if (i < n && text[i] == '&' && i + 1 < n) {
-        char k = text[i + 1];
-        int base = (k == 'h' || k == 'H') ? 16 : (k == 'o' || k == 'O') ? 8 : 0;
-        if (base == 0)
-            return std::nullopt;
-        i += 2;
-        if (i == n)
-            return std::nullopt;
-        std::uint64_t v = 0;
-        for (; i < n; ++i) {
-            char c = text[i];
-            int d = (c >= '0' && c <= '9') ? c - '0' : (c >= 'a' && c <= 'f') ? c - 'a' + 10 : (c >= 'A' && c <= 'F') ? c - 'A' + 10 : 99;
-            if (d >= base)
-                return std::nullopt;
-            v = v * base + d;
-            if (v > 0xFFFFFFFFull)
-                return std::nullopt;
-        }
-        double r = v <= 0xFFFF ? double(std::int16_t(v)) : double(std::int32_t(std::uint32_t(v)));
-        return negative ? -r : r;
-    }
-    // Validate in place, then convert the span at once: long numeric texts
-    // are read in linear time.
-    std::size_t begin = i;
-    bool any = false;
-    while (i < n && text[i] >= '0' && text[i] <= '9') {
-        ++i;
-        any = true;
-    }
-    if (i < n && text[i] == '.') {
-        ++i;
-        while (i < n && text[i] >= '0' && text[i] <= '9') {
-            ++i;
-            any = true;
-        }
-    }
-    if (!any)
-        return std::nullopt;
-    bool otherExponent = false;
-    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
-        otherExponent = text[i] == 'd' || text[i] == 'D';
-        std::size_t j = i + 1;
-        if (j < n && (text[j] == '+' || text[j] == '-'))
-            ++j;
-        bool expDigits = false;
-        while (j < n && text[j] >= '0' && text[j] <= '9') {
-            ++j;
-            expDigits = true;
-        }
-        if (!expDigits)
-            return std::nullopt;
-        i = j;
-    }
-    if (i != n)
-        return std::nullopt;
-    // Leading zeros change nothing but cost the converter dearly on long texts.
-    while (begin + 1 < n && text[begin] == '0' && text[begin + 1] >= '0' && text[begin + 1] <= '9')
-        ++begin;
-    std::string_view number = text.substr(begin, n - begin);
-    double d = 0;
-    std::from_chars_result r;
-    if (otherExponent) {
-        std::string copy(number);
-        for (char& c : copy)
-            if (c == 'd' || c == 'D')
-                c = 'e';
-        r = std::from_chars(copy.data(), copy.data() + copy.size(), d);
-        if (r.ec != std::errc())
-            return std::nullopt;
-    } else {
-        r = std::from_chars(number.data(), number.data() + number.size(), d);
-        if (r.ec != std::errc())
-            return std::nullopt;
-    }
-    if (!std::isfinite(d))
-        return std::nullopt;
-    return negative ? -d : d;
+    std::string_view number = text.substr(i, n - i);
+    std::optional<double> d = number.size() > 1 && number[0] == '&' ? parseRadix(number) : parseDecimal(number);
+    if (!d)
+        return d;
+    return negative ? -*d : *d;
 }
 
 std::string formatDouble(double d)
@@ -519,7 +530,9 @@ Value divide(const Value& a0, const Value& b0)
     return checkedDouble(x / y);
 }
 
-Value intDivide(const Value& a0, const Value& b0)
+// \ and Mod: both operands rounded to whole numbers first.
+template <class F>
+Value wholeDivision(const Value& a0, const Value& b0, F op)
 {
     Value a = toNumeric(a0), b = toNumeric(b0);
     if (a.isNull() || b.isNull())
@@ -527,18 +540,17 @@ Value intDivide(const Value& a0, const Value& b0)
     std::int64_t x = roundToLong(a), y = roundToLong(b);
     if (y == 0)
         raise(errc::DivisionByZero);
-    return fromRankedInt(x / y, std::max(rank(a.type()), rank(b.type())) == 0 ? 0 : 1);
+    return wholeResult(op(x, y), a.type() == Type::Integer && b.type() == Type::Integer);
 }
 
-Value modulo(const Value& a0, const Value& b0)
+Value intDivide(const Value& a, const Value& b)
 {
-    Value a = toNumeric(a0), b = toNumeric(b0);
-    if (a.isNull() || b.isNull())
-        return Value::null();
-    std::int64_t x = roundToLong(a), y = roundToLong(b);
-    if (y == 0)
-        raise(errc::DivisionByZero);
-    return fromRankedInt(x % y, std::max(rank(a.type()), rank(b.type())) == 0 ? 0 : 1);
+    return wholeDivision(a, b, [](std::int64_t x, std::int64_t y) { return x / y; });
+}
+
+Value modulo(const Value& a, const Value& b)
+{
+    return wholeDivision(a, b, [](std::int64_t x, std::int64_t y) { return x % y; });
 }
 
 Value power(const Value& a0, const Value& b0)
@@ -575,8 +587,8 @@ Value negate(const Value& a0)
     Value a = toNumeric(a0);
     switch (a.type()) {
     case Type::Null: return a;
-    case Type::Integer: return fromRankedInt(-std::int64_t(a.asInt()), 0);
-    case Type::Long: return fromRankedInt(-std::int64_t(a.asInt()), 1);
+    case Type::Integer: return wholeResult(-std::int64_t(a.asInt()), true);
+    case Type::Long: return wholeResult(-std::int64_t(a.asInt()), false);
     case Type::Date: return Value::date(-a.asDouble());
     default: return Value::dbl(-a.asDouble());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <climits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ namespace qor::script {
 // Reads a number the way the language reads one in text: blanks around,
 // sign, digits, "." fraction, exponent, or &H / &O. None when not numeric.
 std::optional<double> parseNumeric(std::string_view text);
+// The value of a digit up to base 16 (either letter case); 99 for any
+// other character, so that "digit >= base" ends a number in any base.
+int digitValue(char c);
 
 // The text of a number as CStr gives it: up to 15 significant digits,
 // "." as decimal point, exponent form beyond 1E+15 and below 1E-04 ("1E-05").
@@ -43,6 +47,41 @@ Value toNumeric(const Value& v);
 bool isNumericValue(const Value& v);            // IsNumeric
 
 double roundHalfEven(double d);
+
+// The type of a whole-number result: Integer while both operands are
+// Integer and it fits 16 bits, else Long while it fits 32 bits, else Double.
+enum class WholeType : std::uint8_t { Integer, Long, Double };
+inline WholeType wholeType(std::int64_t n, bool integerOperands)
+{
+    if (integerOperands && n >= -32768 && n <= 32767)
+        return WholeType::Integer;
+    if (n >= INT32_MIN && n <= INT32_MAX)
+        return WholeType::Long;
+    return WholeType::Double;
+}
+
+// The result as a value of that type.
+inline Value wholeResult(std::int64_t n, bool integerOperands)
+{
+    switch (wholeType(n, integerOperands)) {
+    case WholeType::Integer: return Value::integer(std::int32_t(n));
+    case WholeType::Long: return Value::longValue(std::int32_t(n));
+    case WholeType::Double: break;
+    }
+    return Value::dbl(double(n));
+}
+
+// The same into out, for the fast paths that store a whole number in
+// place; false, with out untouched, when only a Double holds it.
+inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+{
+    switch (wholeType(n, integerOperands)) {
+    case WholeType::Integer: out = Value::integer(std::int32_t(n)); return true;
+    case WholeType::Long: out = Value::longValue(std::int32_t(n)); return true;
+    case WholeType::Double: break;
+    }
+    return false;
+}
 
 Value add(const Value& a, const Value& b);
 Value subtract(const Value& a, const Value& b);

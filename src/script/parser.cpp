@@ -1,11 +1,31 @@
 #include "script/parser.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "script/script_error.h"
 #include "script/script_text.h"
 
 namespace qor::script {
+
+namespace {
+
+// The comparison a token stands for, if it stands for one.
+std::optional<BinOp> comparisonOf(Tok t)
+{
+    switch (t) {
+    case Tok::Eq: return BinOp::Eq;
+    case Tok::Ne: return BinOp::Ne;
+    case Tok::Lt: return BinOp::Lt;
+    case Tok::Le: return BinOp::Le;
+    case Tok::Gt: return BinOp::Gt;
+    case Tok::Ge: return BinOp::Ge;
+    default: return std::nullopt;
+    }
+}
+
+}  // namespace
 
 Parser::NestGuard::NestGuard(Parser& parser) : p(parser)
 {
@@ -97,7 +117,7 @@ Program Parser::parseProgram()
             advance();
             program.procedures.push_back(parseProcedure(isFunction));
         } else {
-            program.body->kids.push_back(parseStatement(false));
+            program.body->kids.push_back(parseStatement());
         }
         endStatement();
         skipSeparators();
@@ -180,7 +200,7 @@ SyntaxPtr Parser::parseBlock(bool singleLine)
                     break;
             }
         }
-        block->kids.push_back(parseStatement(singleLine));
+        block->kids.push_back(parseStatement());
         if (singleLine) {
             if (tok().type == Tok::Colon)
                 continue;
@@ -193,97 +213,93 @@ SyntaxPtr Parser::parseBlock(bool singleLine)
     return block;
 }
 
-SyntaxPtr Parser::parseStatement(bool singleLine)
+SyntaxPtr Parser::parseStatement()
 {
-    (void)singleLine;
+    // Statements that hold blocks count against the nesting limit.
+    static constexpr struct {
+        Kw kw;
+        SyntaxPtr (Parser::*parse)();
+    } kBlockStatements[] = {
+        {Kw::If, &Parser::parseIf},         {Kw::For, &Parser::parseFor},       {Kw::Do, &Parser::parseDo},
+        {Kw::While, &Parser::parseWhile},   {Kw::Select, &Parser::parseSelect}, {Kw::With, &Parser::parseWith},
+    };
     const Token& t = tok();
     if (t.type == Tok::Dot)
         return parseAssignOrCall(false);
     if (t.type != Tok::Name)
         fail(errc::ExpectedStatement);
+    for (const auto& b : kBlockStatements) {
+        if (t.kw == b.kw) {
+            NestGuard g(*this);
+            // Its lines are its own, not those of a one-line If around it.
+            int outerIf = std::exchange(singleLineIf_, 0);
+            SyntaxPtr n = (this->*b.parse)();
+            singleLineIf_ = outerIf;
+            return n;
+        }
+    }
     switch (t.kw) {
-    case Kw::None:
-        return parseAssignOrCall(false);
+    case Kw::None: return parseAssignOrCall(false);
     case Kw::Dim:
         advance();
         return parseDim(false);
     case Kw::Public:
-    case Kw::Private:
-        if (procKind_ != 0)
-            fail(errc::SyntaxError);
-        advance();
-        if (isKw(Kw::Const))
-            return parseConst();
-        if (isKw(Kw::Sub) || isKw(Kw::Function))
-            fail(errc::SyntaxError);
-        return parseDim(false);
+    case Kw::Private: return parseVisibility();
     case Kw::ReDim:
         advance();
         return parseDim(true);
-    case Kw::Const:
-        return parseConst();
+    case Kw::Const: return parseConst();
     case Kw::Set:
         advance();
         return parseAssignOrCall(true);
     case Kw::Let:
         advance();
         return parseAssignOrCall(false);
-    case Kw::Call:
-        return parseCallKeyword();
-    case Kw::If: {
-        NestGuard g(*this);
-        return parseIf();
+    case Kw::Call: return parseCallKeyword();
+    case Kw::Exit: return parseExit();
+    case Kw::On: return parseOnError();
+    case Kw::Option: return parseOption();
+    case Kw::Erase: return parseErase();
+    case Kw::Next: fail(errc::UnexpectedNext);
+    case Kw::Loop: fail(errc::LoopWithoutDo);
+    default: fail(errc::SyntaxError);
     }
-    case Kw::For: {
-        NestGuard g(*this);
-        return parseFor();
-    }
-    case Kw::Do: {
-        NestGuard g(*this);
-        return parseDo();
-    }
-    case Kw::While: {
-        NestGuard g(*this);
-        return parseWhile();
-    }
-    case Kw::Select: {
-        NestGuard g(*this);
-        return parseSelect();
-    }
-    case Kw::With: {
-        NestGuard g(*this);
-        return parseWith();
-    }
-    case Kw::Exit:
-        return parseExit();
-    case Kw::On:
-        return parseOnError();
-    case Kw::Option: {
-        if (procKind_ != 0)
-            fail(errc::SyntaxError);
-        auto n = node(Syn::OptionExplicit);
-        advance();
-        if (!isWord("explicit"))
-            fail(errc::SyntaxError);
-        advance();
-        optionExplicit_ = true;
-        return n;
-    }
-    case Kw::Erase: {
-        auto n = node(Syn::Erase);
-        advance();
-        auto target = node(Syn::Name);
-        target->name = expectName();
-        n->kids.push_back(std::move(target));
-        return n;
-    }
-    case Kw::Next:
-        fail(errc::UnexpectedNext);
-    case Kw::Loop:
-        fail(errc::LoopWithoutDo);
-    default:
+}
+
+// Public or Private before a module-level Dim or Const.
+SyntaxPtr Parser::parseVisibility()
+{
+    if (procKind_ != 0)
         fail(errc::SyntaxError);
-    }
+    advance();
+    if (isKw(Kw::Const))
+        return parseConst();
+    if (isKw(Kw::Sub) || isKw(Kw::Function))
+        fail(errc::SyntaxError);
+    return parseDim(false);
+}
+
+SyntaxPtr Parser::parseOption()
+{
+    if (procKind_ != 0)
+        fail(errc::SyntaxError);
+    auto n = node(Syn::OptionExplicit);
+    advance();
+    if (!isWord("explicit"))
+        fail(errc::SyntaxError);
+    advance();
+    optionExplicit_ = true;
+    return n;
+}
+
+SyntaxPtr Parser::parseErase()
+{
+    auto n = node(Syn::Erase);
+    advance();
+    auto target = node(Syn::Name);
+    target->name = expectName();
+    n->kids.push_back(std::move(target));
+    return n;
 }
 
 SyntaxPtr Parser::parseDim(bool redim)
@@ -360,8 +376,6 @@ SyntaxPtr Parser::parseIf()
         }
         return n;
     }
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseBlock());
     for (;;) {
         if (isKw(Kw::ElseIf)) {
@@ -382,7 +396,6 @@ SyntaxPtr Parser::parseIf()
         fail(errc::ExpectedEnd);
     advance();
     expectKw(Kw::If, errc::ExpectedIf);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -390,8 +403,6 @@ SyntaxPtr Parser::parseFor()
 {
     int line = tok().line;
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     SyntaxPtr n;
     if (isKw(Kw::Each)) {
         advance();
@@ -424,7 +435,6 @@ SyntaxPtr Parser::parseFor()
     expectKw(Kw::Next, errc::ExpectedNext);
     if (tok().type == Tok::Name && tok().kw == Kw::None)
         advance();  // the optional variable name after Next
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -432,8 +442,6 @@ SyntaxPtr Parser::parseDo()
 {
     auto n = node(Syn::Do);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     SyntaxPtr cond;
     DoKind kind = DoKind::Forever;
     if (isKw(Kw::While) || isKw(Kw::Until)) {
@@ -457,7 +465,6 @@ SyntaxPtr Parser::parseDo()
     n->op = std::uint8_t(kind);
     n->kids.push_back(std::move(cond));
     n->kids.push_back(std::move(body));
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -465,14 +472,11 @@ SyntaxPtr Parser::parseWhile()
 {
     auto n = node(Syn::Do);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->op = std::uint8_t(DoKind::PreWhile);
     n->kids.push_back(parseExpression());
     n->flag = true;  // While ... Wend: Exit Do does not apply to it
     n->kids.push_back(parseBlock());
     expectKw(Kw::Wend, errc::ExpectedWend);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -481,8 +485,6 @@ SyntaxPtr Parser::parseSelect()
     auto n = node(Syn::Select);
     advance();
     expectKw(Kw::Case, errc::ExpectedCase);
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseExpression());
     endStatement();
     skipSeparators();
@@ -499,33 +501,7 @@ SyntaxPtr Parser::parseSelect()
             sawElse = true;
         } else {
             for (;;) {
-                auto item = node(Syn::CaseItem);
-                if (isKw(Kw::Is)) {
-                    advance();
-                    Tok t = tok().type;
-                    BinOp op;
-                    switch (t) {
-                    case Tok::Eq: op = BinOp::Eq; break;
-                    case Tok::Ne: op = BinOp::Ne; break;
-                    case Tok::Lt: op = BinOp::Lt; break;
-                    case Tok::Le: op = BinOp::Le; break;
-                    case Tok::Gt: op = BinOp::Gt; break;
-                    case Tok::Ge: op = BinOp::Ge; break;
-                    default: fail(errc::SyntaxError);
-                    }
-                    advance();
-                    item->op = 2;
-                    item->op2 = std::uint8_t(op);
-                    item->kids.push_back(parseBinary(7));
-                } else {
-                    item->kids.push_back(parseExpression());
-                    if (isKw(Kw::To)) {
-                        advance();
-                        item->op = 1;
-                        item->kids.push_back(parseExpression());
-                    }
-                }
-                c->kids.push_back(std::move(item));
+                c->kids.push_back(parseCaseItem());
                 if (tok().type != Tok::Comma)
                     break;
                 advance();
@@ -538,8 +514,31 @@ SyntaxPtr Parser::parseSelect()
         fail(n->kids.size() == 1 ? errc::ExpectedCase : errc::ExpectedEnd);
     advance();
     expectKw(Kw::Select, errc::ExpectedSelect);
-    singleLineIf_ = saved;
     return n;
+}
+
+// One item of a Case list: 1, 2 To 5, Is > 7.
+SyntaxPtr Parser::parseCaseItem()
+{
+    auto item = node(Syn::CaseItem);
+    if (isKw(Kw::Is)) {
+        advance();
+        std::optional<BinOp> op = comparisonOf(tok().type);
+        if (!op)
+            fail(errc::SyntaxError);
+        advance();
+        item->op = 2;
+        item->op2 = std::uint8_t(*op);
+        item->kids.push_back(parseBinary(7));
+        return item;
+    }
+    item->kids.push_back(parseExpression());
+    if (isKw(Kw::To)) {
+        advance();
+        item->op = 1;
+        item->kids.push_back(parseExpression());
+    }
+    return item;
 }
 
 SyntaxPtr Parser::parseExit()
@@ -595,8 +594,6 @@ SyntaxPtr Parser::parseWith()
 {
     auto n = node(Syn::With);
     advance();
-    int saved = singleLineIf_;
-    singleLineIf_ = 0;
     n->kids.push_back(parseExpression());
     ++withDepth_;
     n->kids.push_back(parseBlock());
@@ -605,7 +602,6 @@ SyntaxPtr Parser::parseWith()
         fail(errc::ExpectedEnd);
     advance();
     expectKw(Kw::With, errc::ExpectedWith);
-    singleLineIf_ = saved;
     return n;
 }
 
@@ -646,24 +642,7 @@ SyntaxPtr Parser::parseAssignOrCall(bool isSet)
         fail(errc::ExpectedEquals);
     auto n = std::make_unique<SyntaxNode>(Syn::CallStmt, line);
     if (atStatementEnd()) {
-        if (chain->kind == Syn::Call) {
-            if (chain->kids.size() > 2)
-                fail(errc::ParenthesesOnSubCall, line);
-            n->kids.push_back(std::move(chain->kids[0]));
-            if (chain->kids.size() == 2) {
-                // f (x) as a statement passes x by value.
-                SyntaxPtr arg = std::move(chain->kids[1]);
-                if (arg->kind != Syn::Paren && arg->kind != Syn::Missing) {
-                    auto p = std::make_unique<SyntaxNode>(Syn::Paren, arg->line);
-                    p->depth = arg->depth + 1;
-                    p->kids.push_back(std::move(arg));
-                    arg = std::move(p);
-                }
-                n->kids.push_back(std::move(arg));
-            }
-        } else {
-            n->kids.push_back(std::move(chain));
-        }
+        callAlone(*n, std::move(chain), line);
         return n;
     }
     // Arguments without parentheses; "f (1), 2" starts its first argument
@@ -676,26 +655,56 @@ SyntaxPtr Parser::parseAssignOrCall(bool isSet)
     if (chain->kind == Syn::Literal || chain->kind == Syn::Paren)
         fail(errc::ExpectedStatement);
     n->kids.push_back(std::move(chain));
+    parseBareArguments(*n);
+    return n;
+}
+
+// "f", "obj.m" or "f (x)" as a whole statement.
+void Parser::callAlone(SyntaxNode& n, SyntaxPtr chain, int line)
+{
+    if (chain->kind != Syn::Call) {
+        n.kids.push_back(std::move(chain));
+        return;
+    }
+    if (chain->kids.size() > 2)
+        fail(errc::ParenthesesOnSubCall, line);
+    n.kids.push_back(std::move(chain->kids[0]));
+    if (chain->kids.size() < 2)
+        return;
+    // f (x) as a statement passes x by value.
+    SyntaxPtr arg = std::move(chain->kids[1]);
+    if (arg->kind != Syn::Paren && arg->kind != Syn::Missing) {
+        auto p = std::make_unique<SyntaxNode>(Syn::Paren, arg->line);
+        p->depth = arg->depth + 1;
+        p->kids.push_back(std::move(arg));
+        arg = std::move(p);
+    }
+    n.kids.push_back(std::move(arg));
+}
+
+// The arguments of a call statement written without parentheses, up to
+// the end of the statement; a left-out one is Missing.
+void Parser::parseBareArguments(SyntaxNode& call)
+{
     for (;;) {
         if (tok().type == Tok::Comma) {
-            n->kids.push_back(node(Syn::Missing));
+            call.kids.push_back(node(Syn::Missing));
             advance();
             if (atStatementEnd())
-                n->kids.push_back(node(Syn::Missing));
+                call.kids.push_back(node(Syn::Missing));
             continue;
         }
-        n->kids.push_back(parseExpression());
+        call.kids.push_back(parseExpression());
         if (tok().type == Tok::Comma) {
             advance();
             if (atStatementEnd())
-                n->kids.push_back(node(Syn::Missing));
+                call.kids.push_back(node(Syn::Missing));
             continue;
         }
         if (!atStatementEnd())
             fail(errc::ExpectedEndOfStatement);
-        break;
+        return;
     }
-    return n;
 }
 
 void Parser::parseArguments(SyntaxNode& call, bool allowMissing)
@@ -758,14 +767,11 @@ SyntaxPtr Parser::parseBinary(int level)
         case 3: match = isKw(Kw::Or); op = BinOp::Or; break;
         case 4: match = isKw(Kw::And); op = BinOp::And; break;
         case 6:
-            switch (t.type) {
-            case Tok::Eq: op = BinOp::Eq; break;
-            case Tok::Ne: op = BinOp::Ne; break;
-            case Tok::Lt: op = BinOp::Lt; break;
-            case Tok::Le: op = BinOp::Le; break;
-            case Tok::Gt: op = BinOp::Gt; break;
-            case Tok::Ge: op = BinOp::Ge; break;
-            default: match = isKw(Kw::Is); op = BinOp::Is; break;
+            if (std::optional<BinOp> c = comparisonOf(t.type)) {
+                op = *c;
+            } else {
+                match = isKw(Kw::Is);
+                op = BinOp::Is;
             }
             break;
         case 7: match = t.type == Tok::Amp; op = BinOp::Concat; break;

@@ -39,7 +39,10 @@ private:
 
     SyntaxPtr node(Syn k) const { return std::make_unique<SyntaxNode>(k, tok().line); }
     SyntaxPtr parseBlock(bool singleLine = false);
-    SyntaxPtr parseStatement(bool singleLine);
+    SyntaxPtr parseStatement();
+    SyntaxPtr parseVisibility();
+    SyntaxPtr parseOption();
+    SyntaxPtr parseErase();
     SyntaxPtr parseProcedure(bool isFunction);
     SyntaxPtr parseDim(bool redim);
     SyntaxPtr parseConst();
@@ -48,10 +51,13 @@ private:
     SyntaxPtr parseDo();
     SyntaxPtr parseWhile();
     SyntaxPtr parseSelect();
+    SyntaxPtr parseCaseItem();
     SyntaxPtr parseExit();
     SyntaxPtr parseOnError();
     SyntaxPtr parseWith();
     SyntaxPtr parseAssignOrCall(bool isSet);
+    void callAlone(SyntaxNode& n, SyntaxPtr chain, int line);
+    void parseBareArguments(SyntaxNode& call);
     SyntaxPtr parseCallKeyword();
     void parseArguments(SyntaxNode& call, bool allowMissing);
 

@@ -29,6 +29,17 @@ HostResult readMember(Runtime& rt, HostObject* h, const std::string& name, std::
     return HostResult::ok(rt.index(whole.value, args, name));
 }
 
+// The host object of obj.member, or the language's error when obj holds none.
+HostObject* memberTarget(const Value& object, const std::string& objectName)
+{
+    const Value& o = object.deref();
+    if (!o.isObject())
+        raise(errc::ObjectRequired, objectName);
+    if (!o.asObject())
+        raise(errc::ObjectNotSet, objectName);
+    return hostObject(o);
+}
+
 [[noreturn]] void raiseHostError(ScriptError e, std::string_view member)
 {
     if (e.number == errc::NoSuchMember && e.description == errorDescription(errc::NoSuchMember) && !member.empty())
@@ -37,9 +48,6 @@ HostResult readMember(Runtime& rt, HostObject* h, const std::string& name, std::
     throw e;
 }
 }  // namespace
-
-Expr::~Expr() = default;
-Stmt::~Stmt() = default;
 
 namespace {
 void freeStack(Value* p) { std::free(p); }
@@ -186,13 +194,28 @@ private:
     Runtime& rt_;
     Value* base_;
 };
+
+void checkArgumentCount(const Procedure& p, std::size_t count)
+{
+    if (count != p.byRef.size())
+        raise(errc::WrongArguments, p.name);
+}
 }  // namespace
+
+// Runs a procedure whose frame holds its arguments; gives its return value.
+inline Value Runtime::runBody(const Procedure& p, Value* base)
+{
+    Frame frame{this, base, false};
+    p.body->exec(frame);
+    if (p.returnSlot >= 0)
+        return std::move(base[p.returnSlot]);
+    return Value();
+}
 
 Value Runtime::callProcedure(const Procedure& p, const ExprList& args, Frame& caller)
 {
     std::size_t paramCount = p.byRef.size();
-    if (args.size() != paramCount)
-        raise(errc::WrongArguments, p.name);
+    checkArgumentCount(p, args.size());
     checkStack();
     tick();
     Value* base = pushFrame(p.localCount);
@@ -207,43 +230,30 @@ Value Runtime::callProcedure(const Procedure& p, const ExprList& args, Frame& ca
         }
     }
     int savedLine = line;
-    Frame frame{this, base, false};
-    p.body->exec(frame);
+    Value result = runBody(p, base);
     line = savedLine;
-    if (p.returnSlot >= 0)
-        return std::move(base[p.returnSlot]);
-    return Value();
+    return result;
 }
 
 Value Runtime::callProcedureWithValues(const Procedure& p, std::span<Value> args)
 {
-    std::size_t paramCount = p.byRef.size();
-    if (args.size() != paramCount)
-        raise(errc::WrongArguments, p.name);
+    checkArgumentCount(p, args.size());
     checkStack();
     Value* base = pushFrame(p.localCount);
     FrameGuard guard(*this, base);
-    for (std::size_t i = 0; i < paramCount; ++i)
+    for (std::size_t i = 0; i < args.size(); ++i)
         base[i] = args[i];
-    Frame frame{this, base, false};
-    p.body->exec(frame);
-    if (p.returnSlot >= 0)
-        return std::move(base[p.returnSlot]);
-    return Value();
+    return runBody(p, base);
 }
 
 Value Runtime::getMember(const Value& object, const std::string& name, std::span<Value> args, bool asStatement,
                          const std::string& objectName)
 {
-    const Value& o = object.deref();
-    if (!o.isObject())
-        raise(errc::ObjectRequired, objectName);
-    if (!o.asObject())
-        raise(errc::ObjectNotSet, objectName);
+    HostObject* h = memberTarget(object, objectName);
     for (auto& a : args)
         if (isMissing(a))
             a = Value();
-    HostResult r = readMember(*this, hostObject(o), name, args, asStatement);
+    HostResult r = readMember(*this, h, name, args, asStatement);
     if (r.failed())
         raiseHostError(*r.error, name);
     return std::move(r.value);
@@ -252,12 +262,7 @@ Value Runtime::getMember(const Value& object, const std::string& name, std::span
 void Runtime::setMember(const Value& object, const std::string& name, std::span<Value> args, const Value& v,
                         const std::string& objectName)
 {
-    const Value& o = object.deref();
-    if (!o.isObject())
-        raise(errc::ObjectRequired, objectName);
-    if (!o.asObject())
-        raise(errc::ObjectNotSet, objectName);
-    HostResult r = hostObject(o)->setProperty(name, args, v);
+    HostResult r = memberTarget(object, objectName)->setProperty(name, args, v);
     if (r.failed())
         raiseHostError(*r.error, name);
 }

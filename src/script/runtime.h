@@ -9,57 +9,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include "script/code.h"
 #include "script/host.h"
 #include "script/script_error.h"
 #include "script/value.h"
 
 namespace qor::script {
-
-class Runtime;
-struct Procedure;
-
-// A statement's way out of the normal flow.
-enum class Flow : std::uint8_t { Normal, ExitFor, ExitDo, ExitProc };
-
-// The running activation of the top level or of a procedure.
-struct Frame {
-    Runtime* rt;
-    Value* locals;
-    bool resumeNext = false;
-};
-
-// Compiled expression: evaluates to a value. Nodes are built once by the
-// compiler with every name already resolved to a slot.
-struct Expr {
-    int line = 0;
-    virtual ~Expr();
-    virtual Value eval(Frame& f) const = 0;
-    // The variable's storage, for passing it by reference; null for
-    // anything that is not a plain variable.
-    virtual Value* reference(Frame&) const { return nullptr; }
-    virtual bool isLiteral() const { return false; }
-    virtual bool isMissing() const { return false; }
-    // The value as an If or loop condition (Null is false).
-    virtual bool test(Frame& f) const;
-};
-using ExprPtr = std::unique_ptr<Expr>;
-using ExprList = std::vector<ExprPtr>;
-
-struct Stmt {
-    int line = 0;
-    virtual ~Stmt();
-    virtual Flow exec(Frame& f) const = 0;
-};
-using StmtPtr = std::unique_ptr<Stmt>;
-
-struct Procedure {
-    std::string name;
-    bool isFunction = false;
-    std::vector<bool> byRef;
-    int localCount = 0;   // parameters first, then the return value, then locals
-    int returnSlot = -1;
-    StmtPtr body;
-};
 
 // A module-level name: a variable, a constant, a procedure or an object the
 // host added. Undefined names are resolved when the script runs (members
@@ -71,10 +26,6 @@ struct Global {
     Kind kind = Undefined;
     std::shared_ptr<Procedure> proc;
 };
-
-// A missing argument, as in MsgBox "x", , "titre": a Ref to nowhere.
-inline Value missingArgument() { return Value::ref(nullptr); }
-inline bool isMissing(const Value& v) { return v.isRef() && v.asRef() == nullptr; }
 
 class ErrObject;
 
@@ -90,7 +41,6 @@ public:
     // Names of the module (lower-case keys).
     Global* findGlobal(const std::string& lowerName);
     Global& globalSlot(const std::string& name);  // finds or creates an Undefined one
-    std::deque<Global>& globals() { return globals_; }
     std::vector<Ref<HostObject>> exposed;  // objects added with their members exposed
     bool optionExplicit = false;
 
@@ -135,7 +85,6 @@ public:
 
     // Value stack for procedure frames; never reallocated, so references
     // into it stay valid.
-    Value* stackTop() { return sp_; }
     Value* pushFrame(int count);
     void popFrame(Value* base);
 
@@ -144,6 +93,8 @@ public:
     double lastRnd = 0;
 
 private:
+    Value runBody(const Procedure& p, Value* base);
+
     ScriptHost* host_;
     std::deque<Global> globals_;
     std::unordered_map<std::string, Global*> globalIndex_;

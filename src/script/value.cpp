@@ -69,15 +69,6 @@ Value Value::array(ArrayRep* a)
     return v;
 }
 
-Value Value::fromInt64(std::int64_t n)
-{
-    if (n >= -32768 && n <= 32767)
-        return integer(std::int32_t(n));
-    if (n >= INT32_MIN && n <= INT32_MAX)
-        return longValue(std::int32_t(n));
-    return dbl(double(n));
-}
-
 std::string_view Value::asStringView() const
 {
     return s_ ? s_->view() : std::string_view();

@@ -63,8 +63,6 @@ public:
     static Value nothing() { return object(nullptr); }
     static Value array(ArrayRep* a);      // adopts one reference
     static Value ref(Value* target) { Value v; v.type_ = Type::Ref; v.ref_ = target; return v; }
-    // The smallest integer type that holds n, else a Double.
-    static Value fromInt64(std::int64_t n);
 
     Type type() const { return type_; }
     bool isEmpty() const { return type_ == Type::Empty; }
@@ -74,7 +72,6 @@ public:
     bool isArray() const { return type_ == Type::Array; }
     bool isRef() const { return type_ == Type::Ref; }
     bool isInteger() const { return type_ == Type::Integer || type_ == Type::Long; }
-    bool isNumber() const { return type_ >= Type::Boolean && type_ <= Type::Date; }
 
     bool asBool() const { return i_ != 0; }
     std::int32_t asInt() const { return std::int32_t(i_); }
@@ -156,7 +153,6 @@ public:
 
     void addRef() { ++refs_; }
     void release() { if (--refs_ == 0) delete this; }
-    int refCount() const { return refs_; }
 
 private:
     int refs_ = 0;

@@ -92,6 +92,16 @@ INSTANTIATE_TEST_SUITE_P(Statements, Conformance, ::testing::Values(
     Case{"For i = 1 To 10\n If i = 4 Then Exit For\nNext\nMsgBox i", "4"},
     Case{"For i = 1 To 10: i = i + 1: s = s & i: Next: MsgBox s", "246810"},
     Case{"n = 3\nFor i = 1 To n: n = 10: s = s & i: Next: MsgBox s", "123"},
+    // A procedure's own counter runs on the engine's fast path: the same rules hold there.
+    Case{"Function F()\n For i = 1 To 3: s = s & i: Next\n F = s & \" \" & i & \" \" & TypeName(i)\nEnd Function\nMsgBox F()",
+         "123 4 Integer"},
+    Case{"Function F()\n For i = 10 To 1 Step -3: s = s & i: Next\n For j = 1 To 10: j = j + 1: If j > 6 Then Exit For\n Next\n"
+         " F = s & \" \" & j\nEnd Function\nMsgBox F()",
+         "10741 8"},
+    Case{"Function F()\n For i = 32766 To 32767: Next\n For j = CLng(1) To 2: Next\n"
+         " For k = 1 To 3: s = s & k: k = CStr(k): Next\n"
+         " F = i & TypeName(i) & \" \" & TypeName(j) & \" \" & s & \" \" & TypeName(k)\nEnd Function\nMsgBox F()",
+         "32768Long Long 123 Double"},
     Case{"For Each v In Array(1, \"a\", True): s = s & v: Next: MsgBox s", "1aTrue"},
     Case{"i = 0\nDo While i < 3\n i = i + 1\nLoop\nMsgBox i", "3"},
     Case{"i = 0\nDo Until i >= 3\n i = i + 1\nLoop\nMsgBox i", "3"},

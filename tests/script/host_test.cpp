@@ -53,9 +53,10 @@ TEST(TranslationScript, PhrasesFillTheListInOrderInTheSameEngine)
 {
     TranslatedWindow w;
     ASSERT_TRUE(w.module.addCode("Command1.Caption = \"Open\"").ok());
-    RunResult r = w.module.addCode("Liste.AddItem \"Phrase 0\"\r\nListe.AddItem \"Phrase \" & 1\r\nListe.AddItem(\"Phrase 2\")\r\n");
+    RunResult r = w.module.addCode("Liste.AddItem \"Phrase 0\"\r\nListe.AddItem \"Phrase \" & 1\r\nListe.AddItem(\"Phrase 2\")\r\n"
+                                   "With Liste\r\n  .AddItem \"Phrase 3\"\r\nEnd With\r\n");
     ASSERT_TRUE(r.ok()) << r.error->description;
-    EXPECT_EQ(w.list->phrases, (std::vector<std::string>{"Phrase 0", "Phrase 1", "Phrase 2"}));
+    EXPECT_EQ(w.list->phrases, (std::vector<std::string>{"Phrase 0", "Phrase 1", "Phrase 2", "Phrase 3"}));
 }
 
 TEST(TranslationScript, ListMembersAreNotExposed)

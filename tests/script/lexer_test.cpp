@@ -23,6 +23,11 @@ std::string kinds(std::string_view source)
         case Tok::LParen: out += "("; break;
         case Tok::RParen: out += ")"; break;
         case Tok::Amp: out += "&"; break;
+        case Tok::Lt: out += "<"; break;
+        case Tok::Gt: out += ">"; break;
+        case Tok::Le: out += "l"; break;
+        case Tok::Ge: out += "g"; break;
+        case Tok::Ne: out += "!"; break;
         default: out += "o"; break;
         }
     }
@@ -54,6 +59,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Tokens, ::testing::Values(
     Scan{"a _\r\n  = 1", "no#;$"},
     Scan{"[my var] = 2", "no#;$"},
     Scan{"a: b", "n:n;$"},
+    Scan{"a<>b<=c>=d<e>f = g", "n!nlngn<n>non;$"},  // two-character comparisons before their first character
     Scan{"\r\n\r\n", "$"},
     Scan{"x = \"a\"\"b\"", "nos;$"}
 ));
