@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/app/menu_tree.h"
+#include "core/ui/menu_tree.h"
 #include "editor/app/main_window.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/twips.h"

@@ -10,13 +10,13 @@
 #include <QMouseEvent>
 #include <QShortcut>
 
-#include "core/product.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/ui/appearance_frame.h"
 #include "editor/ui/control_names.h"
+#include "model/product.h"
 
 namespace qor {
 namespace {
