@@ -13,7 +13,7 @@
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/twips.h"
 #include "editor/ui/appearance_frame.h"
-#include "editor/ui/control_names.h"
+#include "editor/platform/widget_names.h"
 
 using namespace qor;
 
