@@ -5,14 +5,14 @@
 #include <filesystem>
 #include <string>
 
-#include "core/project/menu_project.h"
 #include "core/project/no_project_hooks.h"
 #include "core/project/project_file.h"
-#include "core/project/project_reader.h"
-#include "core/project/project_writer.h"
-#include "core/text/cp1252.h"
-#include "core/text/line_file.h"
 #include "core/ui/phrases.h"
+#include "model/menu_project.h"
+#include "model/project_reader.h"
+#include "model/project_writer.h"
+#include "text/cp1252.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {
@@ -104,7 +104,8 @@ void BM_SaveToFile(benchmark::State& state)
     CountingDialogs dialogs;
     Phrases phrases;
     NoProjectHooks hooks;
-    ProjectServices services{dialogs, phrases, hooks};
+    NoProjectRoutes routes;
+    ProjectServices services{dialogs, phrases, hooks, routes};
     for (auto _ : state)
         saveProject(p, path, services);
     if (dialogs.asked != 0 || p.filePath != path)
@@ -122,7 +123,8 @@ void BM_LoadFromMemory(benchmark::State& state)
     CountingDialogs dialogs;
     Phrases phrases;
     NoProjectHooks hooks;
-    ProjectServices services{dialogs, phrases, hooks};
+    NoProjectRoutes routes;
+    ProjectServices services{dialogs, phrases, hooks, routes};
     for (auto _ : state) {
         p.reset();
         loadProjectText(p, decodeCp1252(bytes), "/nonexistent/bench.qor", services);
@@ -147,7 +149,8 @@ void BM_LoadFromFile(benchmark::State& state)
     CountingDialogs dialogs;
     Phrases phrases;
     NoProjectHooks hooks;
-    ProjectServices services{dialogs, phrases, hooks};
+    NoProjectRoutes routes;
+    ProjectServices services{dialogs, phrases, hooks, routes};
     for (auto _ : state) {
         loadProject(p, path, true, services);
         benchmark::DoNotOptimize(p.textCount());

@@ -37,7 +37,6 @@
 #include <memory>
 
 #include "core/app/options_file.h"
-#include "core/text/line_file.h"
 #include "core/ports/qmb_converter.h"
 #include "core/ui/appearances_file.h"
 #include "editor/app/editor_application.h"
@@ -46,6 +45,7 @@
 #include "editor/platform/qt_desktop.h"
 #include "editor/platform/qt_screen.h"
 #include "editor/platform/qt_settings_store.h"
+#include "text/line_file.h"
 
 namespace {
 

@@ -9,12 +9,12 @@
 #include <string>
 #include <string_view>
 
-#include "core/project/menu_project.h"
 #include "core/project/no_project_hooks.h"
 #include "core/project/project_file.h"
-#include "core/project/project_writer.h"
-#include "core/text/cp1252.h"
 #include "core/ui/phrases.h"
+#include "model/menu_project.h"
+#include "model/project_writer.h"
+#include "text/cp1252.h"
 
 namespace {
 
@@ -56,17 +56,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string_view bytes(reinterpret_cast<const char*>(data), size);
     Phrases phrases;
     NoProjectHooks hooks;
+    NoProjectRoutes routes;
     // No file lies beside the project: paths are written as they were read.
     RelativePathRule paths("", "", [](const std::string&) { return false; });
 
     ScriptedDialogs dialogs(hashOf(bytes));
-    ProjectServices services{dialogs, phrases, hooks};
+    ProjectServices services{dialogs, phrases, hooks, routes};
     MenuProject first;
     loadProjectText(first, decodeCp1252(bytes), "", services);
     const std::string once = projectFileText(first, paths);
 
     ScriptedDialogs alwaysYes(~0ull);
-    ProjectServices again{alwaysYes, phrases, hooks};
+    ProjectServices again{alwaysYes, phrases, hooks, routes};
     MenuProject second;
     loadProjectText(second, once, "", again);
     const std::string twice = projectFileText(second, paths);

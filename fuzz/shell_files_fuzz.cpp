@@ -5,9 +5,9 @@
 
 #include "core/app/options_file.h"
 #include "core/app/plugins.h"
-#include "core/text/cp1252.h"
-#include "core/text/line_file.h"
 #include "core/ui/appearances_file.h"
+#include "text/cp1252.h"
+#include "text/line_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -1,41 +1,26 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
+
 namespace qor::script {
 
-// Text helpers of the engine. Strings are UTF-8; the language's character
-// functions (Chr, Asc) speak Windows-1252 like the files menus come from.
+// The engine's text vocabulary is the shared text library's: strings are
+// UTF-8, the character functions (Chr, Asc) speak Windows-1252, letter case
+// folds the Latin letters menus and translations use. nextCodePoint,
+// byteOffsetOfChar, lowerCodePoint, upperCodePoint, compareNoCase,
+// lowerAscii and equalsNoCaseAscii are found in qor as they are; the names
+// below are the engine's spellings of the others.
 
-// Decodes the code point at text[pos] and advances pos; a malformed byte
-// reads as itself (so arbitrary bytes never stop a script).
-char32_t nextCodePoint(std::string_view text, std::size_t& pos);
-void appendCodePoint(std::string& out, char32_t c);
-
-// The Windows-1252 character of a byte, and the byte of a character
-// (-1 when Windows-1252 has none).
-char32_t cp1252ToUnicode(unsigned char byte);
-int unicodeToCp1252(char32_t c);
-
-// Letter case of the Latin letters (ASCII, Latin-1 and the few Windows-1252
-// extras), which is all menus and translations use.
-char32_t lowerCodePoint(char32_t c);
-char32_t upperCodePoint(char32_t c);
-std::string lowerText(std::string_view text);
-std::string upperText(std::string_view text);
-
-// Lower-case ASCII, for identifiers (the language ignores their case).
-std::string lowerAscii(std::string_view text);
-bool equalsNoCaseAscii(std::string_view a, std::string_view b);
-
-// Byte offset of the character number index (0-based) of text, or
-// text.size() when text has fewer characters.
-std::size_t byteOffsetOfChar(std::string_view text, std::size_t index);
-std::size_t charCount(std::string_view text);
-
-// Compares a and b ignoring letter case: <0, 0, >0.
-int compareNoCase(std::string_view a, std::string_view b);
+inline void appendCodePoint(std::string& out, char32_t c) { appendUtf8(out, c); }
+inline char32_t cp1252ToUnicode(unsigned char byte) { return cp1252CodePoint(byte); }
+inline int unicodeToCp1252(char32_t c) { return cp1252ByteOf(c); }
+inline std::string lowerText(std::string_view text) { return toLowerText(text); }
+inline std::string upperText(std::string_view text) { return toUpperText(text); }
+inline std::size_t charCount(std::string_view text) { return utf8Length(text); }
 
 }  // namespace qor::script

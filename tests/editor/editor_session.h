@@ -19,12 +19,8 @@
 #include <string>
 #include <vector>
 
-#include "core/app/menu_tree.h"
 #include "core/ports/qmb_converter.h"
-#include "core/project/project_writer.h"
-#include "core/text/cp1252.h"
-#include "core/text/line_file.h"
-#include "core/text/text_helpers.h"
+#include "core/ui/menu_tree.h"
 #include "editor/app/editor_application.h"
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
@@ -32,6 +28,10 @@
 #include "editor/platform/qt_settings_store.h"
 #include "fake_desktop.h"
 #include "fake_screen.h"
+#include "model/project_writer.h"
+#include "text/cp1252.h"
+#include "text/line_file.h"
+#include "text/text_helpers.h"
 
 namespace qor::test {
 

@@ -8,12 +8,12 @@
 #include <utility>
 #include <vector>
 
-#include "core/app/menu_tree.h"
+#include "core/ui/menu_tree.h"
 #include "editor/app/main_window.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/twips.h"
 #include "editor/ui/appearance_frame.h"
-#include "editor/ui/control_names.h"
+#include "editor/platform/widget_names.h"
 
 using namespace qor;
 

@@ -15,12 +15,10 @@
 #include "core/app/association.h"
 #include "core/app/main_window_flows.h"
 #include "core/app/options_file.h"
-#include "core/app/web_pages.h"
 #include "core/app/recent_files.h"
-#include "core/product.h"
+#include "core/app/web_pages.h"
 #include "core/project/document_lifecycle.h"
 #include "core/project/project_file.h"
-#include "core/project/project_reader.h"
 #include "core/project/qmb_import.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/designer/toolbox_window.h"
@@ -29,6 +27,8 @@
 #include "editor/project/file_info_window.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor_session.h"
+#include "model/product.h"
+#include "model/project_reader.h"
 
 using namespace qor;
 using qor::test::Session;

@@ -4,16 +4,17 @@
 #include <string>
 #include <vector>
 
+#include "core/project/project_file.h"
 #include "core/project/project_hooks.h"
 
 namespace qor::test {
 
-// Project hooks that record every call, in order, as one line of text:
+// Project hooks and routes that record every call, in order, as one line of text:
 //   "resetViews", "folder <f>", "background <path>", "image <n> <path>",
 //   "button <n> <kind>", "text <n>", "loading on" / "loading off",
 //   "choice Rien" / "choice Média" / "choice VBS", "recent <path>", "qmb <path>".
 // Picture loads fail with the error given for their path in failingImages.
-class FakeProjectHooks : public ProjectHooks {
+class FakeProjectHooks : public ProjectHooks, public ProjectRoutes {
 public:
     std::vector<std::string> events;
     std::map<std::string, Error> failingImages;

@@ -5,10 +5,10 @@ namespace qor {
 Application::Application(Platform p)
     : settings_(state_, p.settings, p.dialogs),
       recentFiles_(settings_, p.shellView),
-      // The QMB import is built after the hooks that route to it; nothing
-      // reaches it before the application is complete.
-      hooks_(p.projectViews, recentFiles_, qmb_),
-      services_{p.dialogs, state_.phrases, hooks_},
+      // The QMB import is built after the routes to it; nothing reaches it
+      // before the application is complete.
+      routes_(recentFiles_, qmb_),
+      services_{p.dialogs, state_.phrases, p.projectViews, routes_},
       lifecycle_(project_, services_, p.desktop, p.documentView),
       qmb_(p.qmbConverter, p.dialogs,
            [this](const std::string& path) { lifecycle_.openPath(path); }),

@@ -7,10 +7,10 @@
 #include "core/app/user_settings.h"
 #include "core/ports/qmb_converter.h"
 #include "core/project/document_lifecycle.h"
-#include "core/project/menu_project.h"
 #include "core/project/project_file.h"
 #include "core/project/project_hooks.h"
 #include "core/project/qmb_import.h"
+#include "model/menu_project.h"
 
 namespace qor {
 
@@ -23,9 +23,8 @@ struct Platform {
     FileTypeRegistry& fileTypes;
     QmbConverter& qmbConverter;
     ShellView& shellView;
-    // The views' side of the project hooks: reset views, pictures, elements,
-    // loading flag, startup choice, current folder. Its addRecentFile and
-    // importQmb are never called: the application routes those itself.
+    // What a reset or a load shows: pictures, elements, loading flag,
+    // startup choice, current folder.
     ProjectHooks& projectViews;
     DocumentView& documentView;
 };
@@ -48,25 +47,14 @@ public:
     QmbImport& qmbImport() { return qmb_; }
 
 private:
-    // Sends the recent files and the QMB files where they belong and
-    // everything else to the editor's views.
-    class RoutedHooks : public ProjectHooks {
+    // Sends the recent files and the QMB files where they belong.
+    class Routes final : public ProjectRoutes {
     public:
-        RoutedHooks(ProjectHooks& views, RecentFiles& recent, QmbImport& qmb)
-            : views_(views), recent_(recent), qmb_(qmb) {}
-        void resetViews() override { views_.resetViews(); }
-        void setCurrentFolder(const std::string& f) override { views_.setCurrentFolder(f); }
-        Status loadBackgroundImage(const std::string& p) override { return views_.loadBackgroundImage(p); }
-        Status loadButtonImage(int n, const std::string& p) override { return views_.loadButtonImage(n, p); }
-        void buttonCreated(int n, const std::string& kind) override { views_.buttonCreated(n, kind); }
-        void textCreated(int n) override { views_.textCreated(n); }
-        void setLoading(bool on) override { views_.setLoading(on); }
-        void showStartupChoice(StartupChoice c) override { views_.showStartupChoice(c); }
+        Routes(RecentFiles& recent, QmbImport& qmb) : recent_(recent), qmb_(qmb) {}
         void addRecentFile(const std::string& path) override { recent_.add(path); }
         void importQmb(const std::string& path) override { qmb_.run(path); }
 
     private:
-        ProjectHooks& views_;
         RecentFiles& recent_;
         QmbImport& qmb_;
     };
@@ -75,7 +63,7 @@ private:
     UserSettings settings_;
     RecentFiles recentFiles_;
     MenuProject project_;
-    RoutedHooks hooks_;
+    Routes routes_;
     ProjectServices services_;
     DocumentLifecycle lifecycle_;
     QmbImport qmb_;

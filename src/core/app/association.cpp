@@ -1,6 +1,6 @@
 #include "core/app/association.h"
 
-#include "core/text/text_helpers.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 

@@ -2,13 +2,13 @@
 
 #include <filesystem>
 
-#include "core/app/menu_tree.h"
 #include "core/app/web_pages.h"
-#include "core/product.h"
-#include "core/text/numbers.h"
-#include "core/text/text_helpers.h"
-#include "core/text/utf8.h"
 #include "core/ui/languages.h"
+#include "core/ui/menu_tree.h"
+#include "model/product.h"
+#include "text/numbers.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor {
 namespace {

@@ -1,12 +1,11 @@
 #include "core/app/maintenance.h"
 
-#include "core/app/error_text.h"
 #include "core/app/options_file.h"
 #include "core/app/plugins.h"
 #include "core/app/user_settings.h"
-#include "core/text/line_file.h"
-#include "core/text/numbers.h"
 #include "core/ui/appearances_file.h"
+#include "text/line_file.h"
+#include "text/numbers.h"
 
 namespace qor {
 

@@ -1,6 +1,6 @@
 #include "core/app/mouse_position.h"
 
-#include "core/text/numbers.h"
+#include "text/numbers.h"
 
 namespace qor {
 

@@ -2,9 +2,8 @@
 
 #include <filesystem>
 
-#include "core/app/error_text.h"
 #include "core/app/options_file.h"
-#include "core/text/line_file.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/app/app_state.h"
-#include "core/app/commands.h"
 #include "core/app/shell_view.h"
-#include "core/error.h"
 #include "core/ports/dialogs.h"
+#include "core/ui/commands.h"
+#include "text/error.h"
 
 namespace qor {
 

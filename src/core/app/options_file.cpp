@@ -1,6 +1,6 @@
 #include "core/app/options_file.h"
 
-#include "core/text/numbers.h"
+#include "text/numbers.h"
 
 namespace qor {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "core/app/menu_tree.h"
-#include "core/text/line_file.h"
-#include "core/text/text_helpers.h"
-#include "core/text/utf8.h"
+#include "core/ui/menu_tree.h"
+#include "text/line_file.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor {
 

@@ -6,9 +6,9 @@
 
 #include "core/app/app_state.h"
 #include "core/app/shell_view.h"
-#include "core/error.h"
 #include "core/ports/desktop.h"
 #include "core/ports/dialogs.h"
+#include "text/error.h"
 
 namespace qor {
 

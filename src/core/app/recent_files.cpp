@@ -1,8 +1,8 @@
 #include "core/app/recent_files.h"
 
-#include "core/app/menu_tree.h"
-#include "core/text/text_helpers.h"
-#include "core/text/utf8.h"
+#include "core/ui/menu_tree.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor {
 

@@ -4,15 +4,14 @@
 
 #include "core/app/association.h"
 #include "core/app/command_line.h"
-#include "core/app/error_text.h"
 #include "core/app/maintenance.h"
-#include "core/app/menu_tree.h"
 #include "core/app/options_file.h"
 #include "core/app/screen_check.h"
 #include "core/app/window_arrangement.h"
-#include "core/text/text_helpers.h"
 #include "core/ui/appearances_file.h"
 #include "core/ui/languages.h"
+#include "core/ui/menu_tree.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 namespace {

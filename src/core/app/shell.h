@@ -3,8 +3,6 @@
 #include <string>
 
 #include "core/app/app_state.h"
-#include "core/app/commands.h"
-#include "core/app/document.h"
 #include "core/app/main_window_flows.h"
 #include "core/app/option_commands.h"
 #include "core/app/plugins.h"
@@ -16,6 +14,8 @@
 #include "core/ports/file_type_registry.h"
 #include "core/ports/screen.h"
 #include "core/ports/settings_store.h"
+#include "core/project/document.h"
+#include "core/ui/commands.h"
 
 namespace qor {
 

@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "core/app/app_state.h"
-#include "core/app/commands.h"
 #include "core/app/menu_titles.h"
 #include "core/app/window_arrangement.h"
 #include "core/app/windows.h"
+#include "core/ui/commands.h"
 
 namespace qor {
 

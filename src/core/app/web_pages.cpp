@@ -1,7 +1,7 @@
 #include "core/app/web_pages.h"
 
-#include "core/product.h"
-#include "core/text/text_helpers.h"
+#include "model/product.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "core/app/commands.h"
+#include "core/ui/commands.h"
 
 namespace qor {
 

@@ -70,10 +70,4 @@ public:
     virtual std::optional<FontChoice> pickFont(const FontChoice& initial) = 0;
 };
 
-// Shorthand for the common one-button message.
-inline Answer showMessage(Dialogs& dialogs, std::string text, std::string title, MessageIcon icon)
-{
-    return dialogs.message(Message{std::move(text), std::move(title), icon});
-}
-
 }  // namespace qor

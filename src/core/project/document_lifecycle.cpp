@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "core/app/menu_tree.h"
-#include "core/text/text_helpers.h"
+#include "core/ui/menu_tree.h"
 #include "core/ui/phrases.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 namespace {

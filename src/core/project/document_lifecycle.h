@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "core/app/document.h"
 #include "core/ports/desktop.h"
 #include "core/ports/dialogs.h"
+#include "core/project/document.h"
 #include "core/project/file_info.h"
-#include "core/project/menu_project.h"
 #include "core/project/project_file.h"
+#include "model/menu_project.h"
 
 namespace qor {
 

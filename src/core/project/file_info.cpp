@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "core/project/menu_project.h"
-#include "core/text/line_file.h"
-#include "core/text/text_helpers.h"
-#include "core/text/utf8.h"
+#include "model/menu_project.h"
+#include "text/line_file.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor {
 namespace {

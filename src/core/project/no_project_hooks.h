@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/project/project_file.h"
 #include "core/project/project_hooks.h"
 
 namespace qor {
@@ -16,6 +17,11 @@ public:
     void textCreated(int) override {}
     void setLoading(bool) override {}
     void showStartupChoice(StartupChoice) override {}
+};
+
+// No recent files list and no QMB import.
+class NoProjectRoutes : public ProjectRoutes {
+public:
     void addRecentFile(const std::string&) override {}
     void importQmb(const std::string&) override {}
 };

@@ -1,22 +1,27 @@
 #include "core/project/project_file.h"
 
-#include "core/project/project_reader.h"
-#include "core/project/project_writer.h"
-#include "core/text/cp1252.h"
-#include "core/text/line_file.h"
-#include "core/text/text_helpers.h"
 #include "core/ui/phrases.h"
+#include "model/project_reader.h"
+#include "model/project_writer.h"
+#include "text/cp1252.h"
+#include "text/line_file.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 namespace {
 
-// Errors from the file system carry the system's text; the user reads our
-// French description of the same number where we have one.
-Error inFrench(const Error& error)
-{
-    const char* description = errorDescription(error.number);
-    return *description ? makeError(error.number) : error;
-}
+// Each failure of a read asks the user whether to go on.
+class ReadErrorQuestion final : public ReadFailures {
+public:
+    explicit ReadErrorQuestion(Dialogs& dialogs) : dialogs_(dialogs) {}
+    bool goOn(const Error& error, std::string_view paragraph, std::string_view valueLine) override
+    {
+        return dialogs_.message(readErrorMessage(error, paragraph, valueLine)) == Answer::Yes;
+    }
+
+private:
+    Dialogs& dialogs_;
+};
 
 void giveUp(MenuProject& project, ProjectServices& services)
 {
@@ -50,6 +55,11 @@ void loadProjectFile(MenuProject& project, const std::string& path, bool resetFi
 
 }  // namespace
 
+std::string defaultIconMarker(const Phrases& phrases)
+{
+    return "(" + phrases.text(24, "Icône par défaut") + ")";
+}
+
 bool isQmbPath(std::string_view path)
 {
     return endsWithNoCase(path, "qmb");
@@ -65,7 +75,7 @@ void loadProject(MenuProject& project, const std::string& path, bool resetFirst,
                  ProjectServices& services)
 {
     if (isQmbPath(path)) {
-        services.hooks.importQmb(path);
+        services.routes.importQmb(path);
         return;
     }
     loadProjectFile(project, path, resetFirst, services);
@@ -74,13 +84,14 @@ void loadProject(MenuProject& project, const std::string& path, bool resetFirst,
 void loadProjectText(MenuProject& project, std::string_view text, const std::string& path,
                      ProjectServices& services)
 {
-    ProjectReader reader(project, services.hooks, services.dialogs);
+    ReadErrorQuestion question(services.dialogs);
+    ProjectReader reader(project, services.hooks, question);
     if (reader.read(text, path) == ReadOutcome::Abandoned) {
         giveUp(project, services);
         return;
     }
     project.filePath = path;
-    services.hooks.addRecentFile(path);
+    services.routes.addRecentFile(path);
 }
 
 void saveProject(MenuProject& project, const std::string& path, ProjectServices& services)
@@ -98,7 +109,25 @@ void saveProject(MenuProject& project, const std::string& path, ProjectServices&
         project.filePath = path;
         loadProjectFile(project, path, true, services);
     }
-    services.hooks.addRecentFile(path);
+    services.routes.addRecentFile(path);
+}
+
+Message readErrorMessage(const Error& error, std::string_view paragraph, std::string_view valueLine)
+{
+    std::string text;
+    text += "Erreur : " + error.description;
+    text += kCrLf;
+    text += "Numéro d'erreur : " + std::to_string(error.number);
+    text += kCrLf;
+    text += "Paragraphe : ";
+    text += paragraph;
+    text += kCrLf;
+    text += "Ligne suivante : ";
+    text += valueLine;
+    text += kCrLf;
+    text += kCrLf;
+    text += "Continuer le chargement ?";
+    return Message{std::move(text), "Erreur d'ouverture !", MessageIcon::Critical, MessageButtons::YesNo};
 }
 
 Message saveErrorMessage(const Error& error, const Phrases& phrases)

@@ -3,9 +3,8 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "core/app/error_text.h"
-#include "core/text/line_file.h"
-#include "core/text/text_helpers.h"
+#include "text/line_file.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 Message qmbNotInstalledMessage()

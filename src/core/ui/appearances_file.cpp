@@ -1,7 +1,7 @@
 #include "core/ui/appearances_file.h"
 
-#include "core/text/line_file.h"
-#include "core/text/numbers.h"
+#include "text/line_file.h"
+#include "text/numbers.h"
 
 namespace qor {
 namespace {

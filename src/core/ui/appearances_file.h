@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/error.h"
 #include "core/ports/dialogs.h"
+#include "text/error.h"
 
 namespace qor {
 

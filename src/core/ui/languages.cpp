@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/app/menu_tree.h"
+#include "core/ui/menu_tree.h"
 
 namespace qor {
 

@@ -5,10 +5,10 @@
 #include <functional>
 
 #include "core/app/application.h"
+#include "editor/app/editor_document_view.h"
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
-#include "editor/project/editor_document_view.h"
-#include "editor/project/project_views.h"
+#include "editor/app/project_views.h"
 
 namespace qor {
 

@@ -13,6 +13,7 @@
 #include "editor/scripting/script_editor_window.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor/ui/splash_window.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
@@ -60,7 +61,7 @@ void EditorWindows::loadWindow(WindowId id)
     case WindowId::ScriptEditor:
         // Built when a script is first opened in it.
         scriptEditorLoaded_ = true;
-        loadOrder_ << QStringLiteral("Form5");
+        loadOrder_ << QString::fromUtf8(windowName(WindowId::ScriptEditor).data());
         break;
     case WindowId::MousePosition: mousePosition_ = create<MousePositionWindow>(hooks_); break;
     case WindowId::FileInfo: fileInfo(); break;

@@ -10,13 +10,13 @@
 #include <QMouseEvent>
 #include <QShortcut>
 
-#include "core/product.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/ui/appearance_frame.h"
-#include "editor/ui/control_names.h"
+#include "model/product.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 namespace {
@@ -31,7 +31,7 @@ constexpr Colour kButtonText = Colour(0x80000012u);
 MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget* parent)
     : QWidget(parent, Qt::Window), screen_(screen)
 {
-    setObjectName(QStringLiteral("Form2"));
+    named(this, WindowId::Main);
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
 
@@ -64,7 +64,7 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     setAppearanceEditorVisible(false);
 
     // Titles may be left highlighted by the pointer while the window appears.
-    titleReset_.setObjectName(QStringLiteral("Timer1"));
+    named(&titleReset_, "Timer1");
     titleReset_.setSingleShot(true);
     titleReset_.setInterval(300);
     connect(&titleReset_, &QTimer::timeout, this, &MainWindow::menuTitlesResetRequested);
@@ -95,7 +95,7 @@ void MainWindow::buildMenus()
     for (int i = 0; i < kTitleCount; ++i) {
         const auto& m = tree[std::size_t(i)];
         auto* menu = new QMenu(toQt(m.caption), this);
-        menu->setObjectName(toQt(m.name));
+        named(menu, m.name);
         menus_[std::size_t(i)] = menu;
         addEntries(menu, m.entries);
     }
@@ -113,8 +113,8 @@ void MainWindow::addEntries(QMenu* menu, const std::vector<MenuEntry>& entries)
             break;
         case MenuEntry::Kind::Submenu: {
             auto* sub = menu->addMenu(toQt(e.caption));
-            sub->setObjectName(toQt(e.name));
-            sub->menuAction()->setObjectName(toQt(e.name));
+            named(sub, e.name);
+            named(sub->menuAction(), e.name);
             addEntries(sub, e.children);
             break;
         }
@@ -141,7 +141,7 @@ void MainWindow::addEntries(QMenu* menu, const std::vector<MenuEntry>& entries)
 QAction* MainWindow::addCommand(QMenu* menu, const MenuEntry& entry)
 {
     auto* action = menu->addAction(toQt(entry.caption));
-    action->setObjectName(toQt(entry.name));
+    named(action, entry.name);
     action->setCheckable(entry.checkable);
     const CommandId id = entry.id;
     connect(action, &QAction::triggered, this, [this, action, id](bool checked) {
@@ -185,7 +185,7 @@ QAction* MainWindow::addListAction(ListSlot& slot, const QString& caption, int i
                                    bool checkable)
 {
     auto* action = new QAction(caption, slot.menu);
-    nameControl(*action, slot.name, index);
+    named(action, slot.name, index);
     action->setCheckable(checkable);
     slot.menu->insertAction(slot.before, action);
     connect(action, &QAction::triggered, this, [this, action, id, index](bool checked) {

@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "core/app/commands.h"
 #include "core/app/menu_titles.h"
-#include "core/app/menu_tree.h"
 #include "core/ports/screen.h"
+#include "core/ui/commands.h"
+#include "core/ui/menu_tree.h"
 #include "editor/ui/window_hooks.h"
 
 class QAction;

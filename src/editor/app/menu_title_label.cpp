@@ -2,14 +2,14 @@
 
 #include <QMouseEvent>
 
-#include "editor/ui/control_names.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
 MenuTitleLabel::MenuTitleLabel(int index, const QString& caption, QWidget* parent)
     : QLabel(caption, parent), index_(index)
 {
-    nameControl(*this, QStringLiteral("menu_titre"), index);
+    named(this, "menu_titre", index);
     setAlignment(Qt::AlignCenter);
     setAutoFillBackground(true);
     setMouseTracking(true);

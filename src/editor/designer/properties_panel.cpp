@@ -7,19 +7,20 @@
 #include "core/designer/element_selector.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
 PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks)
 {
-    setObjectName(QStringLiteral("Form4"));
+    named(this, WindowId::PropertiesPanel);
     setWindowTitle(QStringLiteral("Paramètres"));
     selector_ = new QComboBox(this);
-    selector_->setObjectName(QStringLiteral("Combo1"));
+    named(selector_, "Combo1");
     content_ = new QWidget(this);
-    content_->setObjectName(QStringLiteral("Picture1"));
+    named(content_, "Picture1");
     scroll_ = new QScrollBar(Qt::Vertical, this);
-    scroll_->setObjectName(QStringLiteral("VScroll1"));
+    named(scroll_, "VScroll1");
     scroll_->setMaximum(0);
     setFixedWidth(twipsToPixels(kWidth, screen.twipsPerPixelX));
     runLoadHooks(*this, hooks);

@@ -5,12 +5,13 @@
 #include <QVBoxLayout>
 
 #include "editor/platform/twips.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
 ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
 {
-    setObjectName(QStringLiteral("Form1"));
+    named(this, WindowId::Toolbox);
     setWindowTitle(QStringLiteral("Objets"));
 
     struct Group {
@@ -27,11 +28,11 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     int n = 0;
     for (const auto& g : groups) {
         auto* box = new QGroupBox(QString::fromUtf8(g.caption), this);
-        box->setObjectName(QString::fromUtf8(g.name));
+        named(box, g.name);
         auto* inner = new QVBoxLayout(box);
         for (const char* caption : g.commands) {
             auto* button = new QPushButton(QString::fromUtf8(caption), box);
-            button->setObjectName(QStringLiteral("Command%1").arg(n + 1));
+            named(button, QStringLiteral("Command%1").arg(n + 1));
             button->setEnabled(false);
             inner->addWidget(button);
             commands_[n++] = button;

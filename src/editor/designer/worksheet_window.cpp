@@ -8,16 +8,17 @@
 #include <QUrl>
 
 #include "editor/platform/twips.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
 WorksheetWindow::WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : ToolWindow(nullptr, Qt::Window)
 {
-    setObjectName(QStringLiteral("Form3"));
+    named(this, WindowId::Worksheet);
     setWindowTitle(QStringLiteral("Feuille de travail"));
     background_ = new QLabel(this);
-    background_->setObjectName(QStringLiteral("Image1"));
+    named(background_, "Image1");
     background_->setScaledContents(true);
     // The usual menu size until start-up gives the worksheet the default one.
     resizeTwips(*this, kDefaultWidth, kDefaultHeight, screen);

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "editor/platform/qt_text.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 namespace {
@@ -16,7 +17,7 @@ namespace {
 QLineEdit* lineField(const char* name, bool readOnly)
 {
     auto* f = new QLineEdit;
-    f->setObjectName(QString::fromUtf8(name));
+    named(f, name);
     f->setReadOnly(readOnly);
     if (readOnly) {
         // Shown on the window's colour, and left out of the Tab order.
@@ -32,13 +33,13 @@ QLineEdit* lineField(const char* name, bool readOnly)
 
 FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(parent)
 {
-    setObjectName(QStringLiteral("Form19"));
+    named(this, WindowId::FileInfo);
     setWindowTitle(QStringLiteral("Propriétés"));
     setModal(true);
 
     auto* layout = new QVBoxLayout(this);
     fileLine_ = new QLabel(this);
-    fileLine_->setObjectName(QStringLiteral("Label1"));
+    named(fileLine_, "Label1");
     fileLine_->setTextFormat(Qt::PlainText);
     layout->addWidget(fileLine_);
 
@@ -50,7 +51,7 @@ FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(pa
     authorEmail_ = lineField("Text2", false);
     authorWebSite_ = lineField("Text3", false);
     notes_ = new QPlainTextEdit;
-    notes_->setObjectName(QStringLiteral("Text4"));
+    named(notes_, "Text4");
     notes_->setTabChangesFocus(true);
     form->addRow(QStringLiteral("Editeur :"), editor_);
     form->addRow(QStringLiteral("Version :"), version_);
@@ -64,10 +65,10 @@ FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(pa
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     auto* ok = new QPushButton(QStringLiteral("&Valider"), this);
-    ok->setObjectName(QStringLiteral("Command1"));
+    named(ok, "Command1");
     ok->setDefault(true);
     auto* cancel = new QPushButton(QStringLiteral("&Annuler"), this);
-    cancel->setObjectName(QStringLiteral("Command2"));
+    named(cancel, "Command2");
     buttons->addWidget(ok);
     buttons->addWidget(cancel);
     layout->addLayout(buttons);

@@ -22,7 +22,7 @@ namespace qor {
 ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : QWidget(nullptr, Qt::Window), screen_(screen)
 {
-    setObjectName(QStringLiteral("Form5"));
+    named(this, WindowId::ScriptEditor);
     setWindowTitle(QStringLiteral("Code VBS"));
 
     strip_ = named(new QWidget(this), "Picture1");

@@ -14,7 +14,7 @@ namespace qor {
 
 AppearanceFrame::AppearanceFrame(QWidget* parent) : QGroupBox(QStringLiteral("Apparences"), parent)
 {
-    setObjectName(QStringLiteral("Frame1"));
+    named(this, "Frame1");
     setMouseTracking(true);
 
     auto* grid = new QGridLayout(this);

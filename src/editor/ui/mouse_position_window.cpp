@@ -4,12 +4,13 @@
 #include <QLabel>
 
 #include "editor/platform/qt_text.h"
+#include "editor/platform/widget_names.h"
 
 namespace qor {
 
 MousePositionWindow::MousePositionWindow(WindowHooks& hooks)
 {
-    setObjectName(QStringLiteral("Form10"));
+    named(this, WindowId::MousePosition);
     setWindowTitle(QStringLiteral("Position de la souris"));
     auto* grid = new QGridLayout(this);
     // Start-up puts this window at the main window's top, right of it: it
@@ -21,7 +22,7 @@ MousePositionWindow::MousePositionWindow(WindowHooks& hooks)
     const char* resting[4] = {"X=0000", "Y=0000", "X=0000", "Y=0000"};
     for (int i = 0; i < 4; ++i) {
         auto* label = new QLabel(QString::fromUtf8(resting[i]), this);
-        label->setObjectName(QStringLiteral("Label%1").arg(i + 1));
+        named(label, QStringLiteral("Label%1").arg(i + 1));
         // Wide enough for "X=66.66666px" without the window jumping.
         label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("X=00000.00000px")));
         grid->addWidget(label, i / 2, i % 2);

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "editor/platform/twips.h"
+#include "editor/platform/widget_names.h"
 
 // Resources live in the editor library; a static library must register them
 // by hand.
@@ -18,7 +19,7 @@ SplashWindow::SplashWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
 {
     registerEditorResources();
-    setObjectName(QStringLiteral("Splash"));
+    named(this, WindowId::Splash);
     setAttribute(Qt::WA_DeleteOnClose, false);
     picture_.load(QStringLiteral(":/qor/splash.png"));
     setFixedSize(twipsToPixels(kWidth, kHeight, screen));

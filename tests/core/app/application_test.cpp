@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "core/app/application.h"
-#include "core/project/project_writer.h"
-#include "core/text/line_file.h"
 #include "fake_desktop.h"
 #include "fake_dialogs.h"
 #include "fake_file_type_registry.h"
@@ -10,7 +8,9 @@
 #include "fake_screen.h"
 #include "fake_settings.h"
 #include "fake_shell_view.h"
+#include "model/project_writer.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

@@ -4,11 +4,11 @@
 
 #include "core/app/main_window_flows.h"
 #include "core/app/web_pages.h"
-#include "core/product.h"
 #include "fake_desktop.h"
 #include "fake_dialogs.h"
 #include "fake_settings.h"
 #include "fake_shell_view.h"
+#include "model/product.h"
 #include "temp_dir.h"
 
 namespace qor {

@@ -2,10 +2,10 @@
 
 #include "core/app/option_commands.h"
 #include "core/app/options_file.h"
-#include "core/text/line_file.h"
 #include "fake_dialogs.h"
 #include "fake_shell_view.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "core/app/plugins.h"
-#include "core/text/cp1252.h"
 #include "fake_desktop.h"
 #include "fake_dialogs.h"
 #include "fake_shell_view.h"
 #include "temp_dir.h"
+#include "text/cp1252.h"
 
 namespace qor {
 namespace {

@@ -3,11 +3,10 @@
 #include <deque>
 #include <filesystem>
 
-#include "core/app/options_file.h"
 #include "core/app/association.h"
+#include "core/app/options_file.h"
 #include "core/app/screen_check.h"
 #include "core/app/shell.h"
-#include "core/text/line_file.h"
 #include "core/ui/appearances_file.h"
 #include "fake_desktop.h"
 #include "fake_dialogs.h"
@@ -16,6 +15,7 @@
 #include "fake_settings.h"
 #include "fake_shell_view.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

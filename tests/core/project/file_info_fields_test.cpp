@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "core/product.h"
 #include "core/project/file_info.h"
-#include "core/project/menu_project.h"
-#include "core/project/project_writer.h"
-#include "core/text/line_file.h"
+#include "model/menu_project.h"
+#include "model/product.h"
+#include "model/project_writer.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

@@ -3,11 +3,11 @@
 #include <filesystem>
 
 #include "core/project/document_lifecycle.h"
-#include "core/project/project_writer.h"
-#include "core/text/line_file.h"
 #include "fake_desktop.h"
+#include "model/project_writer.h"
 #include "project_test_env.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {

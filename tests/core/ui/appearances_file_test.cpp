@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "core/text/line_file.h"
 #include "core/ui/appearances_file.h"
 #include "temp_dir.h"
+#include "text/line_file.h"
 
 namespace qor {
 namespace {
