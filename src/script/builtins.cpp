@@ -10,7 +10,9 @@
 #include "script/code.h"
 #include "script/operations.h"
 #include "script/runtime.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 
@@ -65,14 +67,14 @@ std::int64_t findText(const Value& text, const Value& what, std::int64_t start, 
     if (!ignoreCase) {
         pos = t.find(w, from);
     } else {
-        std::string lt = lowerText(t.substr(from)), lw = lowerText(w);
+        std::string lt = toLowerText(t.substr(from)), lw = toLowerText(w);
         std::size_t p = lt.find(lw);
         // Folding keeps byte lengths for the letters we fold, so offsets agree.
         pos = p == std::string::npos ? p : from + p;
     }
     if (pos == std::string::npos)
         return 0;
-    return ascii ? std::int64_t(pos) + 1 : std::int64_t(charCount(t.substr(0, pos))) + 1;
+    return ascii ? std::int64_t(pos) + 1 : std::int64_t(utf8Length(t.substr(0, pos))) + 1;
 }
 
 int compareMode(Args a, std::size_t i)
@@ -152,7 +154,7 @@ Value fnChr(Runtime&, Args a)
     if (n < 0 || n > 255)
         raise(errc::InvalidCall);
     std::string s;
-    appendCodePoint(s, cp1252ToUnicode(static_cast<unsigned char>(n)));
+    appendUtf8(s, cp1252CodePoint(static_cast<unsigned char>(n)));
     return str(s);
 }
 
@@ -162,7 +164,7 @@ Value fnChrW(Runtime&, Args a)
     if (n < -32768 || n > 65535)
         raise(errc::InvalidCall);
     std::string s;
-    appendCodePoint(s, char32_t(n < 0 ? n + 65536 : n));
+    appendUtf8(s, char32_t(n < 0 ? n + 65536 : n));
     return str(s);
 }
 
@@ -178,7 +180,7 @@ char32_t firstChar(Args a)
 
 Value fnAsc(Runtime&, Args a)
 {
-    int b = unicodeToCp1252(firstChar(a));
+    int b = cp1252ByteOf(firstChar(a));
     return Value::integer(b < 0 ? '?' : b);
 }
 
@@ -233,7 +235,7 @@ Value mapCase(Args a, bool upper)
         return Value::null();
     Value s = toTextValue(a[0]);
     std::string_view v = s.asStringView();
-    return str(upper ? upperText(v) : lowerText(v));
+    return str(upper ? toUpperText(v) : toLowerText(v));
 }
 Value fnUCase(Runtime&, Args a) { return mapCase(a, true); }
 Value fnLCase(Runtime&, Args a) { return mapCase(a, false); }
@@ -306,13 +308,13 @@ Value fnInStrRev(Runtime&, Args a)
     Value head = substring(text, 0, start);
     std::string h(head.asStringView()), w(what.asStringView());
     if (ignoreCase) {
-        h = lowerText(h);
-        w = lowerText(w);
+        h = toLowerText(h);
+        w = toLowerText(w);
     }
     std::size_t pos = h.rfind(w);
     if (pos == std::string::npos)
         return Value::longValue(0);
-    return Value::longValue(std::int32_t(charCount(std::string_view(h).substr(0, pos)) + 1));
+    return Value::longValue(std::int32_t(utf8Length(std::string_view(h).substr(0, pos)) + 1));
 }
 
 Value fnReplace(Runtime&, Args a)
@@ -333,8 +335,8 @@ Value fnReplace(Runtime&, Args a)
     std::string src(tail.asStringView());
     if (find.empty() || count == 0)
         return str(src);
-    std::string hay = ignoreCase ? lowerText(src) : src;
-    std::string needle = ignoreCase ? lowerText(find) : find;
+    std::string hay = ignoreCase ? toLowerText(src) : src;
+    std::string needle = ignoreCase ? toLowerText(find) : find;
     std::string out;
     std::size_t pos = 0;
     std::int64_t done = 0;
@@ -381,7 +383,7 @@ Value fnString(Runtime&, Args a)
         std::int32_t code = toLong(a[1]) % 256;
         if (code < 0)
             code += 256;
-        appendCodePoint(unit, cp1252ToUnicode(static_cast<unsigned char>(code)));
+        appendUtf8(unit, cp1252CodePoint(static_cast<unsigned char>(code)));
     }
     StringRep* r = StringRep::allocate(std::size_t(n) * unit.size());
     for (std::int64_t i = 0; i < n; ++i)
@@ -433,8 +435,8 @@ Value fnSplit(Runtime&, Args a)
         if (delim.empty()) {
             parts.push_back(text);
         } else {
-            std::string hay = ignoreCase ? lowerText(text) : text;
-            std::string needle = ignoreCase ? lowerText(delim) : delim;
+            std::string hay = ignoreCase ? toLowerText(text) : text;
+            std::string needle = ignoreCase ? toLowerText(delim) : delim;
             std::size_t pos = 0;
             for (;;) {
                 if (limit >= 0 && std::int64_t(parts.size()) + 1 >= limit)

@@ -1,7 +1,9 @@
 #include "script/compiler.h"
 
 #include "script/builtins.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 

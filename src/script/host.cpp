@@ -1,6 +1,8 @@
 #include "script/host.h"
 
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 

@@ -5,7 +5,9 @@
 
 #include "script/operations.h"
 #include "script/script_error.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 

@@ -6,7 +6,9 @@
 #include "script/compiler.h"
 #include "script/parser.h"
 #include "script/runtime.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 
@@ -116,7 +118,7 @@ RunResult Module::run(std::string_view procedure, std::vector<Value> args)
 {
     Global* g = rt_->findGlobal(lowerAscii(procedure));
     if (!g || g->kind != Global::Proc)
-        return finish(RunResult{Value(), makeScriptError(35, procedure)});
+        return finish(RunResult{Value(), makeScriptError(errc::UndefinedProcedure, procedure)});
     auto proc = g->proc;
     return finish(guarded(*rt_, [&]() { return rt_->callProcedureWithValues(*proc, args); }));
 }

@@ -5,7 +5,9 @@
 #include <new>
 
 #include "script/script_error.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 
@@ -152,7 +154,7 @@ std::int32_t StringRep::charCount()
         std::uint32_t i = 0;
         while (i < size && static_cast<unsigned char>(data[i]) < 0x80)
             ++i;
-        chars = i == size ? std::int32_t(size) : std::int32_t(script::charCount(view()));
+        chars = i == size ? std::int32_t(size) : std::int32_t(qor::utf8Length(view()));
     }
     return chars;
 }

@@ -38,7 +38,9 @@
 #include "script/builtins.h"
 #include "script/module.h"
 #include "script/operations.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 #include "text/cp1252.h"
 #include "text/utf8.h"
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "script/operations.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script::test {
 

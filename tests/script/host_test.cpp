@@ -6,7 +6,9 @@
 #include "fake_script_host.h"
 #include "script/builtins.h"
 #include "script/operations.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script::test {
 namespace {
@@ -124,7 +126,7 @@ std::string statementBlock(const std::string& title, const std::string& statemen
 {
     std::string t = title.size() % 2 == 0 ? title + " " : title;
     std::size_t k = (60 - t.size()) / 2;
-    std::string lower = lowerText(t);
+    std::string lower = toLowerText(t);
     return "\r\n'" + std::string(k, '#') + t + std::string(k, '#') + "\r\n" + statement + "\r\n'" + std::string(k - 2, '#') +
            "Fin " + lower + std::string(k - 2, '#') + "\r\n";
 }

@@ -3,7 +3,9 @@
 
 #include "script/lexer.h"
 #include "script/script_error.h"
-#include "script/script_text.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
 
 namespace qor::script {
 namespace {
@@ -125,27 +127,27 @@ TEST(Text, Windows1252MapsBothWays)
         char32_t code;
     } cases[] = {{'A', U'A'}, {0x80, U'€'}, {0x8C, U'Œ'}, {0x92, U'’'}, {0x9F, U'Ÿ'}, {0xE9, U'é'}, {0x81, 0x81}};
     for (const auto& c : cases) {
-        EXPECT_EQ(cp1252ToUnicode(c.byte), c.code);
-        EXPECT_EQ(unicodeToCp1252(c.code), c.byte);
+        EXPECT_EQ(cp1252CodePoint(c.byte), c.code);
+        EXPECT_EQ(cp1252ByteOf(c.code), c.byte);
     }
-    EXPECT_EQ(unicodeToCp1252(U'€' + 1), -1);
+    EXPECT_EQ(cp1252ByteOf(U'€' + 1), -1);
 }
 
 TEST(Text, CaseOfLatinLetters)
 {
-    EXPECT_EQ(upperText("élève œuvre ÿ x"), "ÉLÈVE ŒUVRE Ÿ X");
-    EXPECT_EQ(lowerText("ÉCOLE À ÇA"), "école à ça");
-    EXPECT_EQ(upperText("×÷"), "×÷");  // not letters
+    EXPECT_EQ(toUpperText("élève œuvre ÿ x"), "ÉLÈVE ŒUVRE Ÿ X");
+    EXPECT_EQ(toLowerText("ÉCOLE À ÇA"), "école à ça");
+    EXPECT_EQ(toUpperText("×÷"), "×÷");  // not letters
     EXPECT_EQ(compareNoCase("Été", "éTÉ"), 0);
 }
 
 TEST(Text, MalformedBytesCountAsOneCharacterEach)
 {
     std::string bad = "a\xC3(\xE9z";
-    EXPECT_EQ(charCount(bad), 5u);
+    EXPECT_EQ(utf8Length(bad), 5u);
     EXPECT_EQ(byteOffsetOfChar(bad, 3), 3u);
-    EXPECT_EQ(upperText(bad), "A\xC3(\xE9Z");
-    EXPECT_EQ(charCount("été"), 3u);
+    EXPECT_EQ(toUpperText(bad), "A\xC3(\xE9Z");
+    EXPECT_EQ(utf8Length("été"), 3u);
     EXPECT_EQ(byteOffsetOfChar("été", 2), 3u);
 }
 
