@@ -27,6 +27,8 @@
 #include "editor/project/file_info_window.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor_session.h"
+#include "editor/scripting/script_editor_window.h"
+#include <QPlainTextEdit>
 #include "model/product.h"
 #include "model/project_reader.h"
 
@@ -98,6 +100,7 @@ private slots:
     void commandsReachTheirFlows();
     void languagesFromTheProgramFolder();
     void filesDroppedOnTheWorksheet();
+    void scriptEditorWritesEveryChangeBack();
 };
 
 void TestSession::openAsksThenLoads()
@@ -600,6 +603,32 @@ void TestSession::filesDroppedOnTheWorksheet()
     refused.setAccepted(false);
     QApplication::sendEvent(&sheet, &refused);
     QVERIFY(!refused.isAccepted());
+}
+
+void TestSession::scriptEditorWritesEveryChangeBack()
+{
+    Session s;
+    QCOMPARE(s.start(), StartOutcome::Running);
+    s.core().scriptEditor().open(ScriptSlot::Timer);
+    ScriptEditorWindow& editor = s.windows().scriptEditor();
+    QVERIFY(editor.isVisible());
+    QCOMPARE(editor.windowTitle(), QStringLiteral("Code VBS du minuteur"));
+    QCOMPARE(s.core().project().timerScript, timerTemplate());
+    // The text box speaks "\n"; the project keeps CR LF.
+    QVERIFY(!editor.text()->toPlainText().contains(QChar('\r')));
+
+    editor.text()->selectAll();
+    QTest::keyClicks(editor.text(), QStringLiteral("a¤b"));
+    QCOMPARE(QString::fromStdString(s.core().project().timerScript), QStringLiteral("ab"));
+    QCOMPARE(editor.text()->toPlainText(), QStringLiteral("ab"));
+    QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
+    QCOMPARE(s.dialogs.lastMessage().text, std::string("Caratère interdit !"));
+
+    editor.text()->setPlainText(QStringLiteral("x = 1\ny = 2"));
+    QCOMPARE(s.core().project().timerScript, std::string("x = 1\r\ny = 2"));
+    s.core().scriptEditor().hide();
+    QVERIFY(!editor.isVisible());
+    QVERIFY(s.dialogs.unexpected.isEmpty());
 }
 
 int main(int argc, char** argv)

@@ -5,6 +5,7 @@ namespace qor {
 Application::Application(Platform p)
     : settings_(state_, p.settings, p.dialogs),
       recentFiles_(settings_, p.shellView),
+      scriptEditor_(project_, selection_, p.dialogs),
       // The QMB import is built after the routes to it; nothing reaches it
       // before the application is complete.
       routes_(recentFiles_, qmb_),

@@ -5,11 +5,13 @@
 #include "core/app/shell.h"
 #include "core/app/shell_view.h"
 #include "core/app/user_settings.h"
+#include "core/designer/selection.h"
 #include "core/ports/qmb_converter.h"
 #include "core/project/document_lifecycle.h"
 #include "core/project/project_file.h"
 #include "core/project/project_hooks.h"
 #include "core/project/qmb_import.h"
+#include "core/scripting/script_editor_flow.h"
 #include "model/menu_project.h"
 
 namespace qor {
@@ -45,6 +47,8 @@ public:
     AppState& state() { return state_; }
     RecentFiles& recentFiles() { return recentFiles_; }
     QmbImport& qmbImport() { return qmb_; }
+    Selection& selection() { return selection_; }
+    ScriptEditorFlow& scriptEditor() { return scriptEditor_; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -63,6 +67,8 @@ private:
     UserSettings settings_;
     RecentFiles recentFiles_;
     MenuProject project_;
+    Selection selection_;
+    ScriptEditorFlow scriptEditor_;
     Routes routes_;
     ProjectServices services_;
     DocumentLifecycle lifecycle_;

@@ -18,8 +18,10 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
       projectViews_(windows_),
       documentView_(windows_),
       core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
-                     ports.qmbConverter, shellView_, projectViews_, documentView_})
+                     ports.qmbConverter, shellView_, projectViews_, documentView_}),
+      scriptEditorView_(windows_, core_.scriptEditor())
 {
+    core_.scriptEditor().setView(&scriptEditorView_);
     shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
     documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
         applyAuthorFields(core_.project(), fields);

@@ -6,6 +6,7 @@
 
 #include "core/app/application.h"
 #include "editor/app/editor_document_view.h"
+#include "editor/app/editor_script_editor_view.h"
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
@@ -51,6 +52,7 @@ private:
     ProjectViews projectViews_;
     EditorDocumentView documentView_;
     Application core_;
+    EditorScriptEditorView scriptEditorView_;
 };
 
 // What start-up needs from the platform: the executable's path, the
