@@ -97,6 +97,7 @@ inline std::string FakeShellView::name(WindowId w)
     case WindowId::MousePosition: return "MousePosition";
     case WindowId::Splash: return "Splash";
     case WindowId::FileInfo: return "FileInfo";
+    default: return std::string(windowName(w));
     }
     return "?";
 }

@@ -66,6 +66,7 @@ void EditorWindows::loadWindow(WindowId id)
     case WindowId::MousePosition: mousePosition_ = create<MousePositionWindow>(hooks_); break;
     case WindowId::FileInfo: fileInfo(); break;
     case WindowId::Splash: break;
+    default: break;  // built by their own flows when first used
     }
 }
 
@@ -80,6 +81,7 @@ bool EditorWindows::isLoaded(WindowId id) const
     case WindowId::MousePosition: return mousePosition_ != nullptr;
     case WindowId::FileInfo: return fileInfo_ != nullptr;
     case WindowId::Splash: return true;
+    default: return false;
     }
     return false;
 }
@@ -103,6 +105,7 @@ QWidget* EditorWindows::window(WindowId id)
     case WindowId::MousePosition: return mousePosition_.get();
     case WindowId::FileInfo: return fileInfo_.get();
     case WindowId::Splash: return splash_.get();
+    default: return nullptr;
     }
     return nullptr;
 }
