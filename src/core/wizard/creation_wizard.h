@@ -12,6 +12,7 @@
 #include "core/wizard/preview_rules.h"
 #include "core/wizard/wizard_form.h"
 #include "core/wizard/wizard_messages.h"
+#include "core/wizard/wizard_steps.h"
 
 namespace qor {
 
@@ -113,6 +114,8 @@ public:
     void chooseFunction(int function);
     void setFunctionMediaFile(const std::string& name);
     void previewFunctionMessage();
+    // What "Etape 4" lets the user do for the selected line.
+    FunctionControls functionControls() const;
 
     // "Etape 5"
     void pickFolder();
@@ -125,6 +128,7 @@ private:
     // The entry a list line names (k - 1), if it exists.
     WizardButton* entryOfLine(const std::vector<std::string>& lines, int index);
     WizardButton* selectedFunctionEntry();
+    const WizardButton* entryOfLine(const std::vector<std::string>& lines, int index) const;
     void appendButton(WizardButton entry);
     std::optional<std::string> pickImage(const std::string& title, const std::string& current,
                                          std::string_view handler);

@@ -1,6 +1,7 @@
 // "Etape 3" and "Etape 4": making the buttons and giving them a function.
 
 #include <array>
+#include <utility>
 
 #include "core/wizard/button_list.h"
 #include "core/wizard/creation_wizard.h"
@@ -190,7 +191,7 @@ void CreationWizard::selectButtonLine(int index)
     form_.selectedButtonLine = index >= 0 && index < int(form_.buttonLines.size()) ? index : -1;
 }
 
-WizardButton* CreationWizard::entryOfLine(const std::vector<std::string>& lines, int index)
+const WizardButton* CreationWizard::entryOfLine(const std::vector<std::string>& lines, int index) const
 {
     if (index < 0 || index >= int(lines.size()))
         return nullptr;
@@ -198,6 +199,11 @@ WizardButton* CreationWizard::entryOfLine(const std::vector<std::string>& lines,
     if (!k || *k < 1 || *k > int(buttons_.size()))
         return nullptr;
     return &buttons_[std::size_t(*k - 1)];
+}
+
+WizardButton* CreationWizard::entryOfLine(const std::vector<std::string>& lines, int index)
+{
+    return const_cast<WizardButton*>(std::as_const(*this).entryOfLine(lines, index));
 }
 
 void CreationWizard::deleteSelectedButton()
@@ -281,6 +287,12 @@ void CreationWizard::setFunctionMediaFile(const std::string& name)
     WizardButton* entry = selectedFunctionEntry();
     if (entry && entry->function == "0")
         entry->param1 = name;
+}
+
+FunctionControls CreationWizard::functionControls() const
+{
+    const WizardButton* entry = entryOfLine(form_.functionLines, form_.selectedFunctionLine);
+    return functionControlsOf(entry != nullptr, entry ? std::string_view(entry->function) : std::string_view());
 }
 
 void CreationWizard::previewFunctionMessage()
