@@ -16,24 +16,13 @@
 #include "core/project/no_project_hooks.h"
 #include "core/ui/phrases.h"
 #include "core/wizard/creation_wizard.h"
+#include "counting_dialogs.h"
 #include "editor/wizard/qt_button_pictures.h"
 #include "editor/wizard/text_button_image.h"
 
 namespace qor {
 namespace {
 
-// Answers every message with its first button and counts them.
-class QuietDialogs : public Dialogs {
-public:
-    int asked = 0;
-    Answer message(const Message&) override { ++asked; return Answer::Ok; }
-    std::string inputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::optional<std::string> openFile(const FileDialogRequest&) override { return {}; }
-    std::optional<std::string> saveFile(const FileDialogRequest&) override { return {}; }
-    std::optional<std::string> pickFolder(const std::string&) override { return {}; }
-    std::optional<Colour> pickColour(Colour) override { return {}; }
-    std::optional<FontChoice> pickFont(const FontChoice&) override { return {}; }
-};
 
 class NoDesktop : public Desktop {
 public:
@@ -97,7 +86,7 @@ BENCHMARK(BM_DrawTextButtonState)->Arg(8)->Arg(24)->Unit(benchmark::kMicrosecond
 
 // One editor's worth of the wizard's surroundings.
 struct FinishRun {
-    QuietDialogs dialogs;
+    bench::CountingDialogs dialogs;
     NoDesktop desktop;
     Phrases phrases;
     PictureReadingHooks hooks;
@@ -140,7 +129,8 @@ void BM_FinishThirtyTextButtons(benchmark::State& state)
         state.ResumeTiming();
         r->wizard->finish();
         state.PauseTiming();
-        if (!r->wizard->finished() || r->hooks.read != 30 || r->project.savableButtons().size() != 30) {
+        if (!r->wizard->finished() || r->dialogs.asked != 1 || r->hooks.read != 30 ||
+            r->project.savableButtons().size() != 30) {
             state.SkipWithError("the menu was not written and opened whole");
             return;
         }
