@@ -206,8 +206,7 @@ QWidget* CreationWizardWindow::buildFunctionStep()
     grid->addWidget(text("Il faut maintenant attribuer une fonction à chaque boutons :", "Label25"), 0, 0, 1, 2);
     grid->addWidget(text("Les boutons :", "Label26"), 1, 0);
     functionList_ = named(new QListWidget, "List2");
-    functionList_->setFixedHeight(kListHeight);
-    grid->addWidget(functionList_, 2, 0);
+    grid->addWidget(functionList_, 2, 0, 2, 1);
 
     auto* choices = new QGridLayout;
     QGroupBox* possible = frame("Fonctions possibles :", "Frame11", choices);

@@ -5,6 +5,7 @@
 
 #include "core/project/document_lifecycle.h"
 #include "core/wizard/wizard_finish.h"
+#include "core/wizard/wizard_messages.h"
 #include "project_test_env.h"
 #include "wizard_fixture.h"
 
@@ -200,6 +201,42 @@ TEST_F(FinishFixture, APictureThatIsNoPictureAnymoreIsReported)
     wizard.finish();
     EXPECT_EQ(dialogs.lastMessage(), (Message{"Image incorrecte", "Erreur - Assistant création", MessageIcon::Critical}));
     EXPECT_TRUE(wizardOpen);
+}
+
+TEST(WizardFinishFailure, PathErrorsReadAsAnInvalidNameOthersAsTheirDescription)
+{
+    struct Case { Error error; Message shown; };
+    const Case cases[] = {
+        {makeError(err::PathNotFound), refusal("Nom du projet invalide (étape1) !")},
+        {makeError(err::PathFileAccess), refusal("Nom du projet invalide (étape1) !")},
+        // A folder that may not be written to.
+        {makeError(err::PermissionDenied), refusal("Nom du projet invalide (étape1) !")},
+        {makeError(err::DiskFull), {"Disque plein", "Erreur - Assistant création", MessageIcon::Critical}},
+        {makeError(err::InvalidPicture), {"Image incorrecte", "Erreur - Assistant création", MessageIcon::Critical}},
+        {makeError(err::OutOfMemory), {"Mémoire insuffisante", "Erreur - Assistant création", MessageIcon::Critical}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(wizard_message::finishFailed(c.error, kCaption), c.shown) << c.error.number;
+}
+
+TEST_F(FinishFixture, TwoGraphicButtonsSharingAFileNameShareTheLaterPicture)
+{
+    fs::create_directories(dir.path() / "a");
+    fs::create_directories(dir.path() / "b");
+    goTo(2);
+    addGraphic(picture("a/b.gif", 10, 20), picture("a/s.gif", 10, 20), picture("a/c.gif", 10, 20));
+    addGraphic(picture("b/b.gif", 30, 40), picture("b/s.gif", 30, 40), picture("b/c.gif", 30, 40));
+    goTo(4);
+    dialogs.folderAnswers = {dir.folder()};
+    wizard.pickFolder();
+    wizard.setMenuName("Duo");
+    wizard.finish();
+    EXPECT_EQ(document.opened.size(), 1u);
+    EXPECT_EQ(dir.read("Duo/b.gif"), test::FakeButtonPictures::pictureBytes(30, 40));
+    test::ProjectEnv env;
+    env.load(dir.file("Duo/Duo.qor"));
+    EXPECT_EQ(env.project.button(1).normalImage, "b.gif");
+    EXPECT_EQ(env.project.button(2).normalImage, "b.gif");
 }
 
 TEST_F(FinishFixture, TheOpenedProjectGoesThroughTheDocumentLifecycle)
