@@ -92,10 +92,8 @@ QLayout* CreationWizardWindow::buildNavigation()
     QPushButton* cancel = command("Annuler", "Command4");
     auto* row = new QHBoxLayout;
     row->addStretch();
-    for (QPushButton* b : {previous_, next_, finish_, cancel}) {
-        b->setAutoDefault(false);
+    for (QPushButton* b : {previous_, next_, finish_, cancel})
         row->addWidget(b);
-    }
     connect(previous_, &QPushButton::clicked, this, slot(&CreationWizard::previous));
     connect(next_, &QPushButton::clicked, this, slot(&CreationWizard::next));
     connect(finish_, &QPushButton::clicked, this, slot(&CreationWizard::finish));

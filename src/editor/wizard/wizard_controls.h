@@ -16,9 +16,12 @@ namespace qor::wizard_controls {
 
 // The wizard's controls, each made with its caption and control name.
 
+// Enter in a field presses nothing: each command is pressed for itself.
 inline QPushButton* command(const char* caption, const char* name)
 {
-    return named(new QPushButton(QString::fromUtf8(caption)), name);
+    auto* b = named(new QPushButton(QString::fromUtf8(caption)), name);
+    b->setAutoDefault(false);
+    return b;
 }
 
 inline QLabel* text(const char* caption, const char* name)
