@@ -222,7 +222,18 @@ TEST_F(WizardFixture, TransparentBackgroundNeedsTwoColours)
     EXPECT_EQ(dialogs.lastMessage(),
               refusal("La couleur de fond et la couleur du texte doivent être différentes !"));
     EXPECT_FALSE(form().current.transparentBackground);
-    dialogs.colourAnswers = {0x00000000};
+    // Without a transparent background one colour is allowed: the text is
+    // drawn, invisible.
+    dialogs.messages.clear();
+    wizard.setCaption("Caché");
+    wizard.validateTextButton();
+    EXPECT_TRUE(dialogs.messages.empty());
+    ASSERT_EQ(wizard.buttons().size(), 1u);
+    EXPECT_EQ(wizard.buttons()[0].textColor, wizard.buttons()[0].backColor);
+    // A fresh button: black on white.
+    wizard.addButton();
+    wizard.chooseButtonType(ButtonType::Text);
+    dialogs.colourAnswers = {0x000000FF};
     wizard.pickBackColor();
     dialogs.messages.clear();
     wizard.setTransparentBackground(true);
