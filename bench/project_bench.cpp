@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/project/no_project_hooks.h"
+#include "counting_dialogs.h"
 #include "core/project/project_file.h"
 #include "core/ui/phrases.h"
 #include "model/menu_project.h"
@@ -17,18 +18,8 @@
 namespace qor {
 namespace {
 
-// Answers Yes and counts: a well-formed project must not ask anything.
-class CountingDialogs : public Dialogs {
-public:
-    int asked = 0;
-    Answer message(const Message&) override { ++asked; return Answer::Yes; }
-    std::string inputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::optional<std::string> openFile(const FileDialogRequest&) override { return {}; }
-    std::optional<std::string> saveFile(const FileDialogRequest&) override { return {}; }
-    std::optional<std::string> pickFolder(const std::string&) override { return {}; }
-    std::optional<Colour> pickColour(Colour) override { return {}; }
-    std::optional<FontChoice> pickFont(const FontChoice&) override { return {}; }
-};
+// A well-formed project must not ask anything.
+using bench::CountingDialogs;
 
 // 100 buttons with 2 KB scripts, 5,000 text boxes, a 1,000-point shape.
 MenuProject largeProject()

@@ -26,6 +26,7 @@
 #include "editor/platform/colours.h"
 #include "editor/project/file_info_window.h"
 #include "editor/ui/mouse_position_window.h"
+#include "editor/wizard/creation_wizard_window.h"
 #include "editor_session.h"
 #include "editor/scripting/script_editor_window.h"
 #include <QPlainTextEdit>
@@ -524,9 +525,12 @@ void TestSession::commandsReachTheirFlows()
          [](Session& s) { return s.dialogs.lastMessage() == filesAssociatedMessage() && s.toolsStarted.size() == 4; }},
         {CommandId::Manual, [](Session& s) { s.dialogs.folderAnswers = {std::nullopt}; },
          [](Session& s) { return s.dialogs.folderPrompts.size() == 1; }},
-        // The wizard's own window comes with its part: a reset, nothing opens.
+        // A reset, then the wizard opens.
         {CommandId::NewWizard, [](Session& s) { s.dialogs.messageAnswers = {Answer::No}; },
-         [](Session& s) { return s.dialogs.messages.size() == 1 && s.core().project().filePath.empty(); }},
+         [](Session& s) {
+             return s.dialogs.messages.size() == 1 && s.core().project().filePath.empty() &&
+                    s.editor->wizard().window() && s.editor->wizard().window()->isVisible();
+         }},
         {CommandId::Open,
          [&](Session& s) {
              s.dialogs.messageAnswers = {Answer::No};

@@ -9,6 +9,7 @@
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/qt_text.h"
+#include "editor/ui/splash_window.h"
 
 namespace qor {
 
@@ -19,9 +20,16 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
       documentView_(windows_),
       core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
                      ports.qmbConverter, shellView_, projectViews_, documentView_}),
-      scriptEditorView_(windows_, core_.scriptEditor())
+      scriptEditorView_(windows_, core_.scriptEditor()),
+      wizard_({core_.state().wizardOpen, ports.dialogs, ports.desktop, core_.document(), ports.screen.metrics(),
+               core_.state().programFolder, hooks})
 {
     core_.scriptEditor().setView(&scriptEditorView_);
+    // The wizard opens over the main window, and takes over from the splash.
+    shellView_.creationWizardRequested = [this] {
+        wizard_.open(windows_.isLoaded(WindowId::Main) ? &windows_.main() : nullptr);
+    };
+    QObject::connect(&windows_.splash(), &SplashWindow::closed, [this] { wizard_.handOverAsModal(); });
     shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
     documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
         applyAuthorFields(core_.project(), fields);

@@ -10,6 +10,7 @@
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
+#include "editor/wizard/editor_wizard.h"
 
 namespace qor {
 
@@ -43,6 +44,7 @@ public:
     EditorWindows& windows() { return windows_; }
     EditorShellView& shellView() { return shellView_; }
     ProjectViews& projectViews() { return projectViews_; }
+    EditorWizard& wizard() { return wizard_; }
 
 private:
     void connectWindow(WindowId window);
@@ -53,6 +55,7 @@ private:
     EditorDocumentView documentView_;
     Application core_;
     EditorScriptEditorView scriptEditorView_;
+    EditorWizard wizard_;
 };
 
 // What start-up needs from the platform: the executable's path, the

@@ -193,10 +193,14 @@ void EditorShellView::showLanguages(const std::vector<std::string>& captions, in
     windows_.main().setLanguages(installed, checked);
 }
 
-// The appearance editor and the creation wizard come with their own parts;
-// until then their commands open nothing.
+// The appearance editor comes with its own part; until then its command
+// opens nothing.
 void EditorShellView::openAppearancePanel() {}
 
-void EditorShellView::openCreationWizard() {}
+void EditorShellView::openCreationWizard()
+{
+    if (creationWizardRequested)
+        creationWizardRequested();
+}
 
 }  // namespace qor

@@ -21,6 +21,8 @@ public:
     // Ends the event loop once every window is unloaded (the application's
     // own by default).
     std::function<void()> endEventLoop;
+    // Opens a fresh creation wizard.
+    std::function<void()> creationWizardRequested;
 
     void showSplash() override;
     void hideSplash() override;
