@@ -209,6 +209,8 @@ INSTANTIATE_TEST_SUITE_P(Functions, Conformance, ::testing::Values(
     Case{"MsgBox Hex(-2147483648) & \" \" & Hex(-70000) & \" \" & Hex(2.5) & \" \" & Oct(\"64\")", "80000000 FFFEEE90 2 100"},
     Case{"MsgBox Mid(\"abc\", 2, 0) & \"|\" & Left(\"\", 3) & \"|\" & Right(\"abc\", 0) & \"|\" & InStrRev(\"abc\", \"c\", 2)", "|||0"},
     Case{"MsgBox Left(\"abc\", -1)", "", 5, 1},
+    Case{"MsgBox RGB(255, 0, 0) & \" \" & RGB(0, 255, 0) & \" \" & RGB(1, 2, 300) & \" \" & TypeName(RGB(0, 0, 0))", "255 65280 16712193 Long"},
+    Case{"x = RGB(-1, 0, 0)", "", 5, 1},
     Case{"MsgBox UCase(Null) & LCase(Empty) & Len(Null) & Trim(Null)", ""},
     Case{"MsgBox IsNull(UCase(Null)) & IsNull(Len(Null)) & IsNull(Mid(Null, 1))", "TrueTrueTrue"}
 ));

@@ -1,0 +1,335 @@
+#include "player/qt/menu_window.h"
+
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "player/core/pixels.h"
+#include "player/qt/colours.h"
+#include "player/qt/cursors.h"
+#include "player/qt/message_boxes.h"
+#include "player/qt/window_mask.h"
+
+namespace qor::player {
+
+MenuWindow::MenuWindow(QWidget* parent) : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+{
+    setObjectName(QStringLiteral("Fenetre"));
+    setMouseTracking(true);
+    screen_ = screen();
+    connect(&timer_, &QTimer::timeout, this, [this] {
+        if (player_)
+            player_->timerTick();
+    });
+}
+
+MenuWindow::~MenuWindow() = default;
+
+ScreenInfo MenuWindow::screen() const
+{
+    ScreenInfo info;
+    if (const QScreen* s = QGuiApplication::primaryScreen()) {
+        info.width = s->geometry().width();
+        info.height = s->geometry().height();
+        if (s->logicalDotsPerInchX() > 0)
+            info.twipsPerPixelX = 1440.0 / s->logicalDotsPerInchX();
+        if (s->logicalDotsPerInchY() > 0)
+            info.twipsPerPixelY = 1440.0 / s->logicalDotsPerInchY();
+    }
+    return info;
+}
+
+int MenuWindow::px(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelX); }
+int MenuWindow::py(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelY); }
+
+std::optional<ImageSize> MenuWindow::imageSize(const std::string& path)
+{
+    const QPixmap& pixmap = images_.pixmap(path);
+    if (pixmap.isNull())
+        return std::nullopt;
+    return ImageSize{pixmap.width(), pixmap.height()};
+}
+
+void MenuWindow::show(const Scene& scene)
+{
+    buttonScenes_ = scene.buttons;
+    textScenes_ = scene.texts;
+    // Text boxes first: buttons are drawn above them.
+    for (std::size_t i = 0; i < textScenes_.size(); ++i) {
+        texts_.push_back(new TextBox(
+            i, this, [this](std::size_t n, std::string text) { if (player_) player_->textEdited(n, std::move(text)); },
+            [this] { if (player_) player_->pointerLeavesBackground(); }));
+        placeText(i, textScenes_[i]);
+    }
+    for (std::size_t i = 0; i < buttonScenes_.size(); ++i) {
+        buttons_.push_back(new ButtonWidget(i, this, [this](std::size_t n, ButtonWidget::Input in) { buttonInput(n, in); }));
+        placeButton(i, buttonScenes_[i]);
+    }
+    windowChanged(scene.window);
+    QTimer::singleShot(0, this, [this] { warmImages(); });
+}
+
+// The hover and pressed images are decoded while nobody waits for them.
+void MenuWindow::warmImages()
+{
+    for (const ButtonScene& b : buttonScenes_) {
+        images_.warm(b.hoverImage);
+        images_.warm(b.pressedImage);
+    }
+}
+
+void MenuWindow::windowChanged(const WindowScene& w)
+{
+    const bool outlineChanged = w.shape != window_.shape || w.transparencyImage != window_.transparencyImage;
+    const bool backgroundChanged = w.backgroundImage != window_.backgroundImage || w.stretch != window_.stretch;
+    const bool first = !isVisible() && window_.caption.empty() && !closing_;
+    window_ = w;
+    setWindowTitle(QString::fromStdString(w.caption));
+    if (outlineChanged || first)
+        transparency_ = w.transparencyImage.empty() ? QImage() : images_.pixmap(w.transparencyImage).toImage();
+    if (backgroundChanged || first)
+        background_ = QPixmap();
+    applyGeometry(w);
+    if (outlineChanged || first)
+        applyMask();
+    applyPointers();
+    update();
+}
+
+void MenuWindow::applyGeometry(const WindowScene& w)
+{
+    if (w.fullScreen) {
+        if (const QScreen* s = QGuiApplication::primaryScreen())
+            setGeometry(s->geometry());
+    } else {
+        setGeometry(px(w.left), py(w.top), std::max(1, px(w.width)), std::max(1, py(w.height)));
+    }
+    if (!w.visible) {
+        hide();
+        return;
+    }
+    switch (w.windowState) {
+    case 1:
+        showMinimized();
+        break;
+    case 2:
+        showMaximized();
+        break;
+    default:
+        if (isMinimized() || isMaximized())
+            showNormal();
+        else
+            QWidget::show();
+        break;
+    }
+}
+
+void MenuWindow::applyMask()
+{
+    maskSize_ = size();
+    const QRegion region = windowMask(size(), window_.shape, transparency_);
+    if (region.isEmpty())
+        clearMask();
+    else
+        setMask(region);
+}
+
+void MenuWindow::resizeEvent(QResizeEvent*)
+{
+    background_ = QPixmap();
+    if (maskSize_ != size() && !transparency_.isNull())
+        applyMask();
+}
+
+void MenuWindow::applyPointers()
+{
+    applyPointer(*this, pointerOver(window_, window_.cursor, false));
+    for (std::size_t i = 0; i < buttons_.size(); ++i)
+        applyPointer(*buttons_[i], pointerOver(window_, buttonScenes_[i].cursor, true));
+    for (std::size_t i = 0; i < texts_.size(); ++i) {
+        const PointerShape shape = pointerOver(window_, textScenes_[i].cursor, false);
+        if (shape.cursor == Cursor::Default)
+            texts_[i]->viewport()->setCursor(textScenes_[i].locked ? Qt::ArrowCursor : Qt::IBeamCursor);
+        else
+            applyPointer(*texts_[i]->viewport(), shape);
+    }
+}
+
+void MenuWindow::buttonChanged(std::size_t index, const ButtonScene& button)
+{
+    if (index >= buttons_.size())
+        return;
+    const bool pointer = !(button.cursor == buttonScenes_[index].cursor);
+    buttonScenes_[index] = button;
+    placeButton(index, button);
+    if (pointer)
+        applyPointer(*buttons_[index], pointerOver(window_, button.cursor, true));
+}
+
+void MenuWindow::placeButton(std::size_t index, const ButtonScene& b)
+{
+    ButtonWidget* w = buttons_[index];
+    w->setPictures(images_.pixmap(b.normalImage), images_.pixmap(b.shownImage()));
+    w->move(px(b.left), py(b.top));
+    w->setVisible(b.visible);
+}
+
+void MenuWindow::textChanged(std::size_t index, const TextScene& text)
+{
+    if (index >= texts_.size())
+        return;
+    textScenes_[index] = text;
+    placeText(index, text);
+    const PointerShape shape = pointerOver(window_, text.cursor, false);
+    if (shape.cursor == Cursor::Default)
+        texts_[index]->viewport()->setCursor(text.locked ? Qt::ArrowCursor : Qt::IBeamCursor);
+    else
+        applyPointer(*texts_[index]->viewport(), shape);
+}
+
+void MenuWindow::placeText(std::size_t index, const TextScene& t)
+{
+    TextBox* box = texts_[index];
+    box->setGeometry(px(t.left), py(t.top), std::max(0, px(t.width)), std::max(0, py(t.height)));
+    box->present(t);
+}
+
+void MenuWindow::timerChanged(const TimerScene& timer)
+{
+    if (timer.runs() && !closing_)
+        timer_.start(int(timer.interval));
+    else
+        timer_.stop();
+}
+
+void MenuWindow::close()
+{
+    if (closing_)
+        return;
+    closing_ = true;
+    timer_.stop();
+    hide();
+    emit finished();
+}
+
+int MenuWindow::messageBox(const MessageRequest& request)
+{
+    return showMessageBox(isVisible() ? this : nullptr, request);
+}
+
+std::optional<std::string> MenuWindow::inputBox(const script::InputBoxRequest& request)
+{
+    return showInputBox(isVisible() ? this : nullptr, request);
+}
+
+void MenuWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), toQColor(window_.backColor));
+    if (!window_.backgroundImage.empty()) {
+        const QPixmap& image = images_.pixmap(window_.backgroundImage);
+        if (!image.isNull() && background_.isNull())
+            background_ = window_.stretch ? image.scaled(size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
+        painter.drawPixmap(0, 0, background_);
+    }
+    if (!window_.borderVisible || window_.borderWidth <= 0)
+        return;
+    const int pen = window_.borderWidth;
+    painter.setPen(QPen(toQColor(window_.borderColor), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    // The outline stays inside the window, whatever its width.
+    const QRectF box = QRectF(rect()).adjusted(pen / 2.0, pen / 2.0, -pen / 2.0, -pen / 2.0);
+    if (window_.borderShape == 2) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawEllipse(box);
+    } else if (window_.borderShape == 4) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double r = std::min(box.width(), box.height()) / 6;
+        painter.drawRoundedRect(box, r, r);
+    } else {
+        painter.drawRect(box);
+    }
+}
+
+void MenuWindow::buttonInput(std::size_t index, ButtonWidget::Input input)
+{
+    if (!player_)
+        return;
+    switch (input) {
+    case ButtonWidget::Input::Enter: player_->pointerEntersButton(index); break;
+    case ButtonWidget::Input::Leave: player_->pointerLeavesButton(index); break;
+    case ButtonWidget::Input::Press: player_->pressButton(index); break;
+    case ButtonWidget::Input::ReleaseOver: player_->releaseButton(index, true); break;
+    case ButtonWidget::Input::ReleaseOutside: player_->releaseButton(index, false); break;
+    }
+}
+
+// A window without title bar moves when its background is dragged.
+void MenuWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && !window_.fullScreen) {
+        dragging_ = true;
+        dragFrom_ = event->position().toPoint();
+    }
+}
+
+void MenuWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    if (dragging_ && (event->buttons() & Qt::LeftButton)) {
+        move(event->globalPosition().toPoint() - dragFrom_);
+        return;
+    }
+    if (player_ && !childAt(event->position().toPoint()))
+        player_->pointerOverBackground();
+}
+
+void MenuWindow::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !dragging_)
+        return;
+    dragging_ = false;
+    if (player_)
+        player_->windowMoved(x(), y());
+}
+
+void MenuWindow::leaveEvent(QEvent*)
+{
+    if (player_)
+        player_->pointerLeavesBackground();
+}
+
+void MenuWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!player_)
+        return;
+    const std::vector<std::string> entries = player_->contextMenuEntries();
+    if (entries.empty())
+        return;
+    QMenu menu(this);
+    for (const std::string& entry : entries)
+        menu.addAction(QString::fromStdString(entry));
+    const QAction* chosen = menu.exec(event->globalPos());
+    if (!chosen)
+        return;
+    const int at = int(menu.actions().indexOf(const_cast<QAction*>(chosen)));
+    if (at >= 0)
+        player_->chooseContextEntry(std::size_t(at));
+}
+
+void MenuWindow::closeEvent(QCloseEvent* event)
+{
+    if (closing_ || !player_) {
+        event->accept();
+        return;
+    }
+    // The window manager's close goes through the player, which stops the
+    // media and, inside a script, waits for it to end.
+    event->ignore();
+    player_->close();
+}
+
+}  // namespace qor::player
