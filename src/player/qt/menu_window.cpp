@@ -86,17 +86,20 @@ void MenuWindow::windowChanged(const WindowScene& w)
 {
     const bool outlineChanged = w.shape != window_.shape || w.transparencyImage != window_.transparencyImage;
     const bool backgroundChanged = w.backgroundImage != window_.backgroundImage || w.stretch != window_.stretch;
-    const bool first = !isVisible() && window_.caption.empty() && !closing_;
+    const bool pointersChanged = !pointersSet_ || w.cursor != window_.cursor || w.screenCursor != window_.screenCursor ||
+                                 w.handOverButtons != window_.handOverButtons;
     window_ = w;
     setWindowTitle(QString::fromStdString(w.caption));
-    if (outlineChanged || first)
+    if (outlineChanged)
         transparency_ = w.transparencyImage.empty() ? QImage() : images_.pixmap(w.transparencyImage).toImage();
-    if (backgroundChanged || first)
+    if (backgroundChanged)
         background_ = QPixmap();
     applyGeometry(w);
-    if (outlineChanged || first)
+    if (outlineChanged)
         applyMask();
-    applyPointers();
+    if (pointersChanged)
+        applyPointers();
+    pointersSet_ = true;
     update();
 }
 
@@ -105,27 +108,23 @@ void MenuWindow::applyGeometry(const WindowScene& w)
     if (w.fullScreen) {
         if (const QScreen* s = QGuiApplication::primaryScreen())
             setGeometry(s->geometry());
-    } else {
+    } else if (!isMaximized()) {
         setGeometry(px(w.left), py(w.top), std::max(1, px(w.width)), std::max(1, py(w.height)));
     }
-    if (!w.visible) {
-        hide();
+    // Only what a script changed: a window the user minimised stays so while
+    // the timer changes its caption.
+    const int state = w.visible ? w.windowState : -1;
+    if (state == shownState_)
         return;
-    }
-    switch (w.windowState) {
-    case 1:
+    shownState_ = state;
+    if (!w.visible)
+        hide();
+    else if (w.windowState == 1)
         showMinimized();
-        break;
-    case 2:
+    else if (w.windowState == 2)
         showMaximized();
-        break;
-    default:
-        if (isMinimized() || isMaximized())
-            showNormal();
-        else
-            QWidget::show();
-        break;
-    }
+    else
+        showNormal();
 }
 
 void MenuWindow::applyMask()

@@ -80,6 +80,8 @@ private:
     QTimer timer_;
     QPoint dragFrom_;           // pointer on the window when a drag began
     bool dragging_ = false;
+    bool pointersSet_ = false;
+    int shownState_ = -2;       // windowState last applied, -1 hidden, -2 never shown
     bool closing_ = false;
 };
 

@@ -147,3 +147,23 @@ TEST_F(PlayerTest, TheTimerRunsOnlyForAWholeIntervalFromOneTo60000)
 
 }  // namespace
 }  // namespace qor::player::test
+
+namespace qor::player::test {
+namespace {
+
+TEST_F(PlayerTest, TenThousandTextsAndAHundredThousandPointsLoadAndAnswer)
+{
+    MenuProject p;
+    for (int i = 0; i < 10000; ++i)
+        ASSERT_TRUE(p.addText());
+    for (int i = 0; i < 100000; ++i)
+        p.shapePoints.push_back({i % 9000, (i * 7) % 6000});
+    run(p);
+    EXPECT_EQ(view.shown.texts.size(), 10000u);
+    EXPECT_EQ(view.shown.window.shape.size(), 100000u);
+    EXPECT_EQ(exec("Texte10000.Text = \"fin\""), "");
+    EXPECT_EQ(view.shown.texts.back().text, "fin");
+}
+
+}  // namespace
+}  // namespace qor::player::test
