@@ -21,9 +21,12 @@ long timerInterval(std::string_view typed)
     return long(ms);
 }
 
-// A window never outgrows the screen, as the window system would have it.
-double clampedSize(double twips, int screenPixels, double twipsPerPixel)
+// A window never outgrows the screen, as the window system would have it. A
+// size that is not positive cannot be shown: the editor's default is taken.
+double clampedSize(double twips, double defaultTwips, int screenPixels, double twipsPerPixel)
 {
+    if (!(twips > 0))
+        twips = defaultTwips;
     const int pixels = std::clamp(twipsToPixels(twips, twipsPerPixel), 1, std::max(1, screenPixels));
     return pixels * twipsPerPixel;
 }
@@ -37,8 +40,9 @@ WindowScene windowFrom(const MenuProject& p, const MenuDataInfo& info, const Scr
         w.width = screen.width * screen.twipsPerPixelX;
         w.height = screen.height * screen.twipsPerPixelY;
     } else {
-        w.width = clampedSize(p.width, screen.width, screen.twipsPerPixelX);
-        w.height = clampedSize(p.height, screen.height, screen.twipsPerPixelY);
+        const MenuProject defaults;
+        w.width = clampedSize(p.width, defaults.width, screen.width, screen.twipsPerPixelX);
+        w.height = clampedSize(p.height, defaults.height, screen.height, screen.twipsPerPixelY);
     }
     // Centred on the screen, on whole pixels.
     w.left = std::floor((screen.width - w.width / screen.twipsPerPixelX) / 2) * screen.twipsPerPixelX;

@@ -58,19 +58,35 @@ void MenuWindow::show(const Scene& scene)
 {
     buttonScenes_ = scene.buttons;
     textScenes_ = scene.texts;
-    // Text boxes first: buttons are drawn above them.
-    for (std::size_t i = 0; i < textScenes_.size(); ++i) {
-        texts_.push_back(new TextBox(
-            i, this, [this](std::size_t n, std::string text) { if (player_) player_->textEdited(n, std::move(text)); },
-            [this] { if (player_) player_->pointerLeavesBackground(); }));
-        placeText(i, textScenes_[i]);
-    }
+    texts_.assign(textScenes_.size(), nullptr);
     for (std::size_t i = 0; i < buttonScenes_.size(); ++i) {
         buttons_.push_back(new ButtonWidget(i, this, [this](std::size_t n, ButtonWidget::Input in) { buttonInput(n, in); }));
         placeButton(i, buttonScenes_[i]);
     }
+    createTexts(kTextsAtOnce);
     windowChanged(scene.window);
     QTimer::singleShot(0, this, [this] { warmImages(); });
+}
+
+// Text boxes are heavy widgets: a menu with thousands of them gets its
+// window at once and the rest batch by batch, the window answering the user
+// between batches. A box not made yet keeps its scene until it is.
+void MenuWindow::createTexts(std::size_t count)
+{
+    const std::size_t end = std::min(texts_.size(), textsMade_ + count);
+    for (; textsMade_ < end; ++textsMade_) {
+        const std::size_t i = textsMade_;
+        auto* box = new TextBox(
+            i, this, [this](std::size_t n, std::string text) { if (player_) player_->textEdited(n, std::move(text)); },
+            [this] { if (player_) player_->pointerLeavesBackground(); });
+        texts_[i] = box;
+        // Buttons stay above the text boxes.
+        if (!buttons_.empty())
+            box->stackUnder(buttons_.front());
+        textChanged(i, textScenes_[i]);
+    }
+    if (textsMade_ < texts_.size())
+        QTimer::singleShot(0, this, [this] { createTexts(kTextsAtOnce); });
 }
 
 // The hover and pressed images are decoded while nobody waits for them.
@@ -149,13 +165,8 @@ void MenuWindow::applyPointers()
     applyPointer(*this, pointerOver(window_, window_.cursor, false));
     for (std::size_t i = 0; i < buttons_.size(); ++i)
         applyPointer(*buttons_[i], pointerOver(window_, buttonScenes_[i].cursor, true));
-    for (std::size_t i = 0; i < texts_.size(); ++i) {
-        const PointerShape shape = pointerOver(window_, textScenes_[i].cursor, false);
-        if (shape.cursor == Cursor::Default)
-            texts_[i]->viewport()->setCursor(textScenes_[i].locked ? Qt::ArrowCursor : Qt::IBeamCursor);
-        else
-            applyPointer(*texts_[i]->viewport(), shape);
-    }
+    for (std::size_t i = 0; i < textsMade_; ++i)
+        textChanged(i, textScenes_[i]);
 }
 
 void MenuWindow::buttonChanged(std::size_t index, const ButtonScene& button)
@@ -182,12 +193,15 @@ void MenuWindow::textChanged(std::size_t index, const TextScene& text)
     if (index >= texts_.size())
         return;
     textScenes_[index] = text;
+    TextBox* box = texts_[index];
+    if (!box)
+        return;
     placeText(index, text);
     const PointerShape shape = pointerOver(window_, text.cursor, false);
     if (shape.cursor == Cursor::Default)
-        texts_[index]->viewport()->setCursor(text.locked ? Qt::ArrowCursor : Qt::IBeamCursor);
+        box->viewport()->setCursor(text.locked ? Qt::ArrowCursor : Qt::IBeamCursor);
     else
-        applyPointer(*texts_[index]->viewport(), shape);
+        applyPointer(*box->viewport(), shape);
 }
 
 void MenuWindow::placeText(std::size_t index, const TextScene& t)

@@ -39,6 +39,7 @@ public:
     std::optional<std::string> inputBox(const script::InputBoxRequest& request) override;
 
     const std::vector<ButtonWidget*>& buttons() const { return buttons_; }
+    // The text boxes, null for one still to be made (see createTexts).
     const std::vector<TextBox*>& texts() const { return texts_; }
 
 signals:
@@ -59,6 +60,7 @@ private:
     void buttonInput(std::size_t index, ButtonWidget::Input input);
     void placeButton(std::size_t index, const ButtonScene& button);
     void placeText(std::size_t index, const TextScene& text);
+    void createTexts(std::size_t count);
     void applyGeometry(const WindowScene& window);
     void applyMask();
     void applyPointers();
@@ -72,7 +74,9 @@ private:
     std::vector<ButtonScene> buttonScenes_;
     std::vector<TextScene> textScenes_;
     std::vector<ButtonWidget*> buttons_;
-    std::vector<TextBox*> texts_;
+    std::vector<TextBox*> texts_;     // null for a box not made yet
+    std::size_t textsMade_ = 0;
+    static constexpr std::size_t kTextsAtOnce = 200;
     ImageCache images_;
     QPixmap background_;        // the background as drawn at the current size
     QImage transparency_;

@@ -53,7 +53,8 @@ QRegion windowMask(QSize size, const std::vector<PixelPoint>& outline, const QIm
     QRegion region;
     bool cut = false;
     if (!outline.empty()) {
-        region = outlineRegion(outline);
+        // Only what lies on the window matters to the window system.
+        region = outlineRegion(outline).intersected(QRect(QPoint(0, 0), size));
         cut = true;
     }
     if (!transparency.isNull() && !size.isEmpty()) {

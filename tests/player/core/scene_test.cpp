@@ -73,17 +73,22 @@ TEST_F(PlayerTest, TheWindowIsCentredAndSizedFromTheData)
 
 TEST_F(PlayerTest, HostileSizesAreBroughtBackToTheScreen)
 {
-    const std::pair<float, float> cases[] = {{1e30f, 1e30f}, {-500, -9000}, {0, 0}};
-    for (const auto& [width, height] : cases) {
+    struct Case {
+        float width, height;
+        double shownWidth, shownHeight;
+    };
+    const Case cases[] = {
+        {1e30f, 1e30f, 1024 * 15, 768 * 15},
+        {-500, -9000, 9600, 7200},
+        {0, 7, 9600, 15},
+    };
+    for (const Case& c : cases) {
         MenuProject p;
-        p.width = width;
-        p.height = height;
+        p.width = c.width;
+        p.height = c.height;
         run(p);
-        const WindowScene& w = view.shown.window;
-        EXPECT_GE(w.width, 15);
-        EXPECT_LE(w.width, 1024 * 15);
-        EXPECT_GE(w.height, 15);
-        EXPECT_LE(w.height, 768 * 15);
+        EXPECT_EQ(view.shown.window.width, c.shownWidth) << c.width;
+        EXPECT_EQ(view.shown.window.height, c.shownHeight) << c.height;
     }
 }
 
