@@ -1,7 +1,9 @@
 #include "player/qt/qt_media.h"
 
+#include <QAudioDevice>
 #include <QAudioOutput>
 #include <QFileInfo>
+#include <QMediaDevices>
 #include <QMediaPlayer>
 #include <QPointer>
 #include <QUrl>
@@ -31,6 +33,14 @@ bool playable(const std::string& path)
     return !path.empty() && QFileInfo(QString::fromStdString(path)).isFile();
 }
 
+// A machine without any sound output plays no sound at all: the media
+// back-end would otherwise write into a device that is not there.
+bool hasSoundOutput()
+{
+    static const bool has = !QMediaDevices::audioOutputs().isEmpty();
+    return has;
+}
+
 // Video windows still open; closed ones have deleted themselves.
 std::vector<QPointer<QWidget>>& videoWindows()
 {
@@ -52,7 +62,7 @@ QtMedia::Channel& QtMedia::channel(std::unique_ptr<Channel>& slot)
 
 void QtMedia::playMusic(const std::string& path)
 {
-    if (!playable(path))
+    if (!playable(path) || !hasSoundOutput())
         return;
     Channel& c = channel(music_);
     c.player.setLoops(QMediaPlayer::Infinite);
@@ -62,7 +72,7 @@ void QtMedia::playMusic(const std::string& path)
 
 void QtMedia::playSound(const std::string& path)
 {
-    if (!playable(path))
+    if (!playable(path) || !hasSoundOutput())
         return;
     Channel& c = channel(sound_);
     c.player.stop();
@@ -82,9 +92,9 @@ void QtMedia::playVideo(const std::string& path)
     auto* layout = new QVBoxLayout(window);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(video);
-    auto* output = new QAudioOutput(window);
     auto* player = new QMediaPlayer(window);
-    player->setAudioOutput(output);
+    if (hasSoundOutput())
+        player->setAudioOutput(new QAudioOutput(window));
     player->setVideoOutput(video);
     player->setSource(fileUrl(path));
     window->resize(640, 480);
