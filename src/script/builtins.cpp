@@ -146,6 +146,21 @@ Value fnLoadPicture(Runtime& rt, Args a)
     return std::move(r.value);
 }
 
+// ---- Colours ----------------------------------------------------------
+
+// RGB(red, green, blue) as 0x00BBGGRR; a part above 255 counts as 255.
+Value fnRGB(Runtime&, Args a)
+{
+    std::int32_t colour = 0;
+    for (int i = 0; i < 3; ++i) {
+        const std::int32_t part = toLong(a[std::size_t(i)]);
+        if (part < 0)
+            raise(errc::InvalidCall);
+        colour |= std::min<std::int32_t>(part, 255) << (8 * i);
+    }
+    return Value::longValue(colour);
+}
+
 // ---- Characters -------------------------------------------------------
 
 Value fnChr(Runtime&, Args a)
@@ -832,6 +847,7 @@ constexpr Builtin kBuiltins[] = {
     {"Second", 1, 1, fnSecond},
     {"Hex", 1, 1, fnHex},
     {"Oct", 1, 1, fnOct},
+    {"RGB", 3, 3, fnRGB},
 };
 
 struct Constant {

@@ -74,6 +74,38 @@ RunResult Module::finish(RunResult r)
     return r;
 }
 
+// The text's names join the module: procedures, constants, variables.
+void Module::install(const Chunk& chunk)
+{
+    for (const auto& proc : chunk.procedures) {
+        Global& g = rt_->globalSlot(proc->name);
+        g.kind = Global::Proc;
+        g.proc = proc;
+        g.value = Value();
+    }
+    for (auto& [g, v] : chunk.constants) {
+        g->kind = Global::Constant;
+        g->value = v;
+        g->proc.reset();
+    }
+    for (Global* g : chunk.variables)
+        if (g->kind == Global::Undefined)
+            g->kind = Global::Variable;
+    if (chunk.optionExplicit)
+        rt_->optionExplicit = true;
+}
+
+RunResult Module::runTop(const Chunk& chunk)
+{
+    install(chunk);
+    return finish(guarded(*rt_, [&]() {
+        TopFrame top(*rt_, chunk.topLocals);
+        Frame f = top.frame();
+        chunk.body->exec(f);
+        return Value();
+    }));
+}
+
 RunResult Module::addCode(std::string_view text)
 {
     Chunk* chunk = nullptr;
@@ -82,23 +114,6 @@ RunResult Module::addCode(std::string_view text)
         Program program = parser.parseProgram();
         Compiler compiler(*rt_);
         auto compiled = compiler.compile(program);
-        // Compiled without error: now the text's names join the module.
-        for (const auto& proc : compiled->procedures) {
-            Global& g = rt_->globalSlot(proc->name);
-            g.kind = Global::Proc;
-            g.proc = proc;
-            g.value = Value();
-        }
-        for (auto& [g, v] : compiled->constants) {
-            g->kind = Global::Constant;
-            g->value = v;
-            g->proc.reset();
-        }
-        for (Global* g : compiled->variables)
-            if (g->kind == Global::Undefined)
-                g->kind = Global::Variable;
-        if (compiled->optionExplicit)
-            rt_->optionExplicit = true;
         chunk = compiled.get();
         chunks_.push_back(std::move(compiled));
     } catch (ScriptError& e) {
@@ -106,12 +121,20 @@ RunResult Module::addCode(std::string_view text)
     } catch (const std::bad_alloc&) {
         return finish(RunResult{Value(), makeScriptError(errc::OutOfMemory)});
     }
-    return finish(guarded(*rt_, [&]() {
-        TopFrame top(*rt_, chunk->topLocals);
-        Frame f = top.frame();
-        chunk->body->exec(f);
-        return Value();
-    }));
+    return runTop(*chunk);
+}
+
+RunResult Module::runCode(std::string_view text)
+{
+    auto it = compiled_.find(text);
+    if (it != compiled_.end())
+        return runTop(*it->second);
+    const std::size_t before = chunks_.size();
+    RunResult r = addCode(text);
+    // Only a text that compiled is kept: a syntax error is found again.
+    if (chunks_.size() > before)
+        compiled_.emplace(std::string(text), chunks_.back().get());
+    return r;
 }
 
 RunResult Module::run(std::string_view procedure, std::vector<Value> args)
@@ -152,6 +175,7 @@ bool Module::hasProcedure(std::string_view name) const
 
 void Module::reset()
 {
+    compiled_.clear();
     chunks_.clear();
     rt_ = std::make_unique<Runtime>(host_);
     rt_->setStepBudget(stepBudget_);

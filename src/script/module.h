@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -46,6 +47,11 @@ public:
     void addObject(std::string_view name, Ref<HostObject> object, bool exposeMembers = false);
 
     RunResult addCode(std::string_view text);
+    // Like addCode, but a text that compiled before is not parsed and
+    // compiled again: its compiled form runs once more. A script run at every
+    // timer tick or pointer entry costs one compilation, and the module does
+    // not grow with each run.
+    RunResult runCode(std::string_view text);
     // Runs a statement (or several) in the module, like addCode.
     RunResult executeStatement(std::string_view text) { return addCode(text); }
     // Calls a Sub or Function of the module with argument values.
@@ -70,10 +76,13 @@ public:
 
 private:
     RunResult finish(RunResult r);
+    void install(const Chunk& chunk);
+    RunResult runTop(const Chunk& chunk);
 
     ScriptHost* host_;
     std::unique_ptr<Runtime> rt_;
     std::vector<std::unique_ptr<Chunk>> chunks_;
+    std::map<std::string, const Chunk*, std::less<>> compiled_;
     std::optional<ScriptError> lastError_;
     std::uint64_t stepBudget_ = 0;
     std::size_t maxStackBytes_;

@@ -130,8 +130,23 @@ struct Operand {
     const Value& a = *pa;                                            \
     const Value& b = right.get(f, tb)
 
-// a + b and a - b with the whole-number fast path inline: the loops menus
-// run are mostly counters.
+// A number the fast paths can take as a double: Integer, Long or Double
+// (a Date, a string or Empty go the general way).
+inline bool asPlainNumber(const Value& v, double& d)
+{
+    if (v.isInteger()) {
+        d = v.asInt();
+        return true;
+    }
+    if (v.type() == Type::Double) {
+        d = v.asDouble();
+        return true;
+    }
+    return false;
+}
+
+// a + b and a - b with the whole-number and double fast paths inline: the
+// loops menus run are mostly counters and sums.
 template <bool Subtract>
 struct AddSubExpr final : Expr {
     Operand left, right;
@@ -144,6 +159,16 @@ struct AddSubExpr final : Expr {
     {
         return a.type() == Type::Integer && b.type() == Type::Integer;
     }
+    // A Double with a number gives a Double, as add and subtract would; an
+    // overflow (an infinite result) is left to them to report.
+    static bool combineDouble(const Value& a, const Value& b, double& d)
+    {
+        double x, y;
+        if (!asPlainNumber(a, x) || !asPlainNumber(b, y))
+            return false;
+        d = Subtract ? x - y : x + y;
+        return d - d == 0;
+    }
     // local = a + b on locals and literals, computed in place.
     bool intoLocal(Frame& f, Value& out) const
     {
@@ -152,9 +177,13 @@ struct AddSubExpr final : Expr {
         Value ta, tb;
         const Value& a = left.get(f, ta);
         const Value& b = right.get(f, tb);
-        if (!a.isInteger() || !b.isInteger())
+        if (a.isInteger() && b.isInteger())
+            return storeWhole(out, combine(a, b), bothInteger(a, b));
+        double d;
+        if (!combineDouble(a, b, d))
             return false;
-        return storeWhole(out, combine(a, b), bothInteger(a, b));
+        out = Value::dbl(d);
+        return true;
     }
     Value eval(Frame& f) const override
     {
@@ -162,13 +191,9 @@ struct AddSubExpr final : Expr {
         // Whole numbers give what add or subtract would, without the detour.
         if (a.isInteger() && b.isInteger())
             return wholeResult(combine(a, b), bothInteger(a, b));
-        if constexpr (!Subtract) {
-            if (a.type() == Type::Double && b.type() == Type::Double) {
-                double d = a.asDouble() + b.asDouble();
-                if (d - d == 0)
-                    return Value::dbl(d);
-            }
-        }
+        double d;
+        if (combineDouble(a, b, d))
+            return Value::dbl(d);
         return Subtract ? subtract(a, b) : add(a, b);
     }
 };
@@ -181,7 +206,16 @@ struct CompareExpr final : Expr {
     Operand left, right;
     CompareExpr(Compare o, std::uint8_t lit, ExprPtr a, ExprPtr b)
         : op(o), literals(lit), left(std::move(a)), right(std::move(b)) {}
-    static bool intCompare(Compare op, std::int32_t x, std::int32_t y)
+    static bool intCompare(Compare op, std::int32_t x, std::int32_t y) { return compareNumbers(op, x, y); }
+    Value eval(Frame& f) const override
+    {
+        QOR_OPERANDS(f);
+        if (a.isInteger() && b.isInteger())
+            return Value::boolean(intCompare(op, a.asInt(), b.asInt()));
+        return compare(op, a, b, literals);
+    }
+    template <class T>
+    static bool compareNumbers(Compare op, T x, T y)
     {
         switch (op) {
         case Compare::Eq: return x == y;
@@ -193,18 +227,15 @@ struct CompareExpr final : Expr {
         }
         return false;
     }
-    Value eval(Frame& f) const override
-    {
-        QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger())
-            return Value::boolean(intCompare(op, a.asInt(), b.asInt()));
-        return compare(op, a, b, literals);
-    }
     bool test(Frame& f) const override
     {
         QOR_OPERANDS(f);
         if (a.isInteger() && b.isInteger())
             return intCompare(op, a.asInt(), b.asInt());
+        // Two numbers, one a Double: compared as numbers, as compare would.
+        double x, y;
+        if (asPlainNumber(a, x) && asPlainNumber(b, y))
+            return compareNumbers(op, x, y);
         Value r = compare(op, a, b, literals);
         return r.type() == Type::Boolean && r.asBool();
     }

@@ -33,8 +33,10 @@
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <string>
 
+#include "player/core/file_system_object.h"
 #include "script/builtins.h"
 #include "script/module.h"
 #include "script/operations.h"
@@ -173,67 +175,16 @@ std::string toUtf8(const std::string& bytes)
     return qor::isValidUtf8(bytes) ? bytes : qor::decodeCp1252(bytes);
 }
 
-class TextStream : public HostObject {
-public:
-    explicit TextStream(std::string text) : text_(std::move(text)) {}
-    std::string typeName() const override { return "TextStream"; }
-    HostResult getProperty(std::string_view name, Args) override
-    {
-        if (equalsNoCase(name, "ReadAll")) {
-            std::string rest = text_.substr(pos_);
-            pos_ = text_.size();
-            return HostResult::ok(Value::string(rest));
-        }
-        if (equalsNoCase(name, "ReadLine")) {
-            if (pos_ >= text_.size())
-                return HostResult::fail(62, "La lecture dépasse la fin du fichier");
-            std::size_t end = text_.find_first_of("\r\n", pos_);
-            if (end == std::string::npos)
-                end = text_.size();
-            std::string line = text_.substr(pos_, end - pos_);
-            pos_ = end;
-            if (pos_ < text_.size() && text_[pos_] == '\r')
-                ++pos_;
-            if (pos_ < text_.size() && text_[pos_] == '\n')
-                ++pos_;
-            return HostResult::ok(Value::string(line));
-        }
-        if (equalsNoCase(name, "AtEndOfStream"))
-            return HostResult::ok(Value::boolean(pos_ >= text_.size()));
-        if (equalsNoCase(name, "Close"))
-            return HostResult::ok();
-        return noMember();
-    }
-
-private:
-    std::string text_;
-    std::size_t pos_ = 0;
-};
-
-class FileSystem : public HostObject {
-public:
-    std::string typeName() const override { return "FileSystemObject"; }
-    HostResult getProperty(std::string_view name, Args args) override
-    {
-        if (equalsNoCase(name, "OpenTextFile")) {
-            if (args.empty())
-                return HostResult::fail(errc::WrongArguments);
-            bool ok = false;
-            std::string bytes = readBytes(toText(args[0]), ok);
-            if (!ok)
-                return HostResult::fail(53, "Fichier introuvable");
-            return HostResult::ok(Value::object(new TextStream(toUtf8(bytes))));
-        }
-        if (equalsNoCase(name, "FileExists")) {
-            if (args.size() != 1)
-                return HostResult::fail(errc::WrongArguments);
-            bool ok = false;
-            readBytes(toText(args[0]), ok);
-            return HostResult::ok(Value::boolean(ok));
-        }
-        return noMember();
-    }
-};
+// The player's own file object, reading paths as they are given.
+qor::player::FileSystemObject* newFileSystem()
+{
+    return new qor::player::FileSystemObject([](std::string_view path) { return std::string(path); },
+                                             [](const std::string& path) -> std::optional<std::string> {
+                                                 bool ok = false;
+                                                 std::string bytes = readBytes(path, ok);
+                                                 return ok ? std::optional<std::string>(std::move(bytes)) : std::nullopt;
+                                             });
+}
 
 class ConsoleHost : public ScriptHost {
 public:
@@ -267,7 +218,7 @@ public:
         if (HostObject::equalsNoCase(id, "WScript.Shell"))
             return HostResult::ok(Value::object(new Shell));
         if (HostObject::equalsNoCase(id, "Scripting.FileSystemObject"))
-            return HostResult::ok(Value::object(new FileSystem));
+            return HostResult::ok(Value::object(newFileSystem()));
         return ScriptHost::createObject(id);
     }
     HostResult loadPicture(std::string_view path) override

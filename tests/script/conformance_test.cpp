@@ -209,6 +209,11 @@ INSTANTIATE_TEST_SUITE_P(Functions, Conformance, ::testing::Values(
     Case{"MsgBox Hex(-2147483648) & \" \" & Hex(-70000) & \" \" & Hex(2.5) & \" \" & Oct(\"64\")", "80000000 FFFEEE90 2 100"},
     Case{"MsgBox Mid(\"abc\", 2, 0) & \"|\" & Left(\"\", 3) & \"|\" & Right(\"abc\", 0) & \"|\" & InStrRev(\"abc\", \"c\", 2)", "|||0"},
     Case{"MsgBox Left(\"abc\", -1)", "", 5, 1},
+    Case{"MsgBox RGB(255, 0, 0) & \" \" & RGB(0, 255, 0) & \" \" & RGB(1, 2, 300) & \" \" & TypeName(RGB(0, 0, 0))", "255 65280 16712193 Long"},
+    Case{"x = RGB(-1, 0, 0)", "", 5, 1},
+    Case{"Function F()\n Dim s, d, i\n s = 2147483000 : d = 0.5\n For i = 1 To 1000\n  s = s + i\n  If d < s Then d = d - 0.25\n Next\n F = TypeName(s) & \" \" & s & \" \" & d & \" \" & (d < 1) & \" \" & (1.5 >= 2)\nEnd Function\nMsgBox F()", "Double 2147983500 -249.5 True False"},
+    Case{"Function G()\n Dim d, n\n n = 3 : d = 1.5\n d = n - d\n G = TypeName(d) & d & TypeName(n + 0.5) & (n + 0.5)\nEnd Function\nMsgBox G()", "Double1.5Double3.5"},
+    Case{"Function H()\n Dim d\n d = 1E+308\n d = d + 1E+308\nEnd Function\nx = H()", "", 6, 4},
     Case{"MsgBox UCase(Null) & LCase(Empty) & Len(Null) & Trim(Null)", ""},
     Case{"MsgBox IsNull(UCase(Null)) & IsNull(Len(Null)) & IsNull(Mid(Null, 1))", "TrueTrueTrue"}
 ));

@@ -83,6 +83,28 @@ TEST(ModuleModel, ARunTimeErrorKeepsWhatRanBeforeIt)
     EXPECT_EQ(toText(module.eval("a & b & IsEmpty(c) & IsEmpty(d)").value), "12TrueTrue");
 }
 
+TEST(ModuleModel, RunCodeRunsATextAgainFromItsCompiledFormWithTheSameEffects)
+{
+    FakeScriptHost host;
+    Module module(&host);
+    const std::string tick = "n = n + 1\r\nSub Montrer()\r\n MsgBox n\r\nEnd Sub";
+    for (int i = 0; i < 3; ++i)
+        ASSERT_TRUE(module.runCode(tick).ok());
+    ASSERT_TRUE(module.runCode("Montrer").ok());
+    // A procedure redefined by another text comes back when the first runs again.
+    ASSERT_TRUE(module.addCode("Sub Montrer()\r\n MsgBox \"autre\"\r\nEnd Sub").ok());
+    ASSERT_TRUE(module.runCode("Montrer").ok());
+    ASSERT_TRUE(module.runCode(tick).ok());
+    ASSERT_TRUE(module.runCode("Montrer").ok());
+    EXPECT_EQ(host.output(), "3|autre|4");
+    // A syntax error is reported each time, never cached as a text that runs.
+    EXPECT_EQ(module.runCode("If").error->number, module.runCode("If").error->number);
+    EXPECT_FALSE(module.runCode("If").ok());
+    module.reset();
+    ASSERT_TRUE(module.runCode(tick).ok());
+    EXPECT_EQ(module.eval("n").value.asInt(), 1);
+}
+
 TEST(ModuleModel, ResetForgetsEverything)
 {
     Module module;

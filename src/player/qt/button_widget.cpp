@@ -1,0 +1,54 @@
+#include "player/qt/button_widget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace qor::player {
+
+ButtonWidget::ButtonWidget(std::size_t index, QWidget* parent, std::function<void(std::size_t, Input)> report)
+    : QWidget(parent), index_(index), report_(std::move(report))
+{
+    setAttribute(Qt::WA_Hover, false);
+}
+
+void ButtonWidget::setPictures(const QPixmap& normal, const QPixmap& shown)
+{
+    resize(normal.isNull() ? kPlaceholderSize : normal.size());
+    shown_ = shown;
+    update();
+}
+
+void ButtonWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (!shown_.isNull()) {
+        painter.drawPixmap(0, 0, shown_);
+        return;
+    }
+    painter.fillRect(rect(), QColor(212, 208, 200));
+    painter.setPen(QColor(64, 64, 64));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void ButtonWidget::enterEvent(QEnterEvent*) { report_(index_, Input::Enter); }
+void ButtonWidget::leaveEvent(QEvent*) { report_(index_, Input::Leave); }
+
+void ButtonWidget::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    report_(index_, Input::Press);
+}
+
+void ButtonWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    report_(index_, rect().contains(event->position().toPoint()) ? Input::ReleaseOver : Input::ReleaseOutside);
+}
+
+}  // namespace qor::player
