@@ -75,15 +75,7 @@ void ScriptEditorWindow::buildStrip()
     auto* newProcedure = named(new QPushButton(QStringLiteral("Nouvelle procédure"), strip_), "Command3");
     autoFormat_ = named(new QCheckBox(QStringLiteral("Mise en forme automatique"), strip_), "Check1");
     autoFormat_->setChecked(true);
-    cursorPrompt_ = named(new QLabel(toQt(kCursorChoiceLabel), strip_), "Label3");
-    cursorPrompt_->setCursor(Qt::PointingHandCursor);
-    cursorPrompt_->installEventFilter(this);
-    // Blinking must not move the other controls.
-    QSizePolicy keepRoom = cursorPrompt_->sizePolicy();
-    keepRoom.setRetainSizeWhenHidden(true);
-    cursorPrompt_->setSizePolicy(keepRoom);
-    cursorPrompt_->hide();
-    for (QWidget* w : std::initializer_list<QWidget*>{test, assistant, newProcedure, autoFormat_, cursorPrompt_})
+    for (QWidget* w : std::initializer_list<QWidget*>{test, assistant, newProcedure, autoFormat_})
         row->addWidget(w);
     row->addStretch();
     connect(test, &QPushButton::clicked, this, &ScriptEditorWindow::testRunRequested);
@@ -155,6 +147,14 @@ void ScriptEditorWindow::buildNewProcedurePanel()
 
 void ScriptEditorWindow::buildOverlays()
 {
+    // Over the text's bottom right corner, so that blinking moves nothing.
+    cursorPrompt_ = named(new QLabel(toQt(kCursorChoiceLabel), this), "Label3");
+    cursorPrompt_->setCursor(Qt::PointingHandCursor);
+    cursorPrompt_->setFrameShape(QFrame::Box);
+    cursorPrompt_->setMargin(4);
+    cursorPrompt_->setAutoFillBackground(true);
+    cursorPrompt_->installEventFilter(this);
+    cursorPrompt_->hide();
     notice_ = named(new QLabel(QStringLiteral("Veuillez patienter..."), this), "Label2");
     notice_->setAlignment(Qt::AlignCenter);
     notice_->setFrameShape(QFrame::Box);
@@ -184,6 +184,7 @@ void ScriptEditorWindow::showProcedures(const QStringList& names, const QStringL
 void ScriptEditorWindow::showCursorPrompt(bool pending)
 {
     cursorPrompt_->setVisible(pending);
+    cursorPrompt_->raise();
     if (pending)
         blinkTimer_->start();
     else
@@ -264,6 +265,8 @@ void ScriptEditorWindow::placeOverlays()
     newProcedure_->setGeometry(QRect(area.center() - QPoint(panel.width() / 2, panel.height() / 2), panel));
     const QSize notice(std::min(area.width(), 300), std::min(area.height(), 60));
     notice_->setGeometry(QRect(area.center() - QPoint(notice.width() / 2, notice.height() / 2), notice));
+    const QSize prompt = cursorPrompt_->sizeHint();
+    cursorPrompt_->setGeometry(QRect(area.bottomRight() - QPoint(prompt.width() + 20, prompt.height() + 20), prompt));
 }
 
 }  // namespace qor

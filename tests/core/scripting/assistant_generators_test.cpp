@@ -109,8 +109,6 @@ TEST(AssistantGenerators, PagesDocumentsAndPrograms)
         {"exe_", -1, {"notepad.exe"},
          {{"Entrez le nom du fichier à exécuter : (ex: notepad.exe, mon_rep/prog.exe, ...)", "", ""}},
          StatementBlock{"Exécuter un fichier", run + "notepad.exe\" + Chr(34))"}},
-        {"exe_", -1, {""}, {{"Entrez le nom du fichier à exécuter : (ex: notepad.exe, mon_rep/prog.exe, ...)", "", ""}},
-         std::nullopt},
     });
 }
 
@@ -124,7 +122,6 @@ TEST(AssistantGenerators, TextFile)
                         "Set fso = CreateObject(\"Scripting.FileSystemObject\")\r\n"
                         "Set fich = fso.opentextfile(\"c:\\1.txt\", 1)\r\nTexte2.Text=fich.ReadAll\r\nfich.Close"}},
         {"texte_mnu", -1, {"c:\\1.txt", ""}, {path, box}, std::nullopt},
-        {"texte_mnu", -1, {""}, {path}, std::nullopt},
     });
 }
 
@@ -147,7 +144,6 @@ TEST(AssistantGenerators, CdDriveSoundsAndVideos)
          StatementBlock{"Jouer un son WAV", "Action.Tag = \"a.wav\"\r\nAction.Text = \"JouerSonWAV\""}},
         {"jouerunevideo_mnu", -1, {"v.avi"}, {{"Chemin du fichier vidéo :", "Jouer une fichier vidéo", ""}},
          StatementBlock{"Jouer une vidéo", "Action.Tag = \"v.avi\"\r\nAction.Text = \"JouerVideo\""}},
-        {"jouerunevideo_mnu", -1, {""}, {{"Chemin du fichier vidéo :", "Jouer une fichier vidéo", ""}}, std::nullopt},
     });
 }
 

@@ -58,15 +58,5 @@ TEST(AssistantMenu, IndexedFamiliesCarryTheirValues)
     EXPECT_EQ(cursorMenu().back().index, kCustomCursor);
 }
 
-TEST(AssistantMenu, TopLevelInItsOrder)
-{
-    std::vector<std::string> captions;
-    for (const auto& e : assistantMenu())
-        captions.push_back(e.caption);
-    EXPECT_EQ(captions, (std::vector<std::string>{"Afficher un message", "Lancer un sous menu", "Internet",
-                                                  "Ouvrir/Exécuter", "Lecteur CD", "Multimédia", "Menu/Fenêtre",
-                                                  "Ecran", "Minuteur", "Boîte de texte", "Bouton", "Annuler"}));
-}
-
 }  // namespace
 }  // namespace qor

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "script/host.h"
+#include "fake_script_host.h"
 #include "script/module.h"
 
 namespace qor::test {
@@ -12,28 +12,23 @@ namespace qor::test {
 // The running menu as its scripts see it: Fenetre, Ecran, Bordure,
 // ImageFond, Minuteur, Action, Bouton1..Bouton100 and Texte1..Texte100, each
 // with exactly the members menu scripts are promised (any other fails with
-// error 438), plus the two shell objects and LoadPicture. The tests of what
-// the assistant writes run here; this is the one place to swap for the
-// player's own objects.
-class MenuRuntime : public script::ScriptHost {
+// error 438), plus the shell objects and LoadPicture of the script tests'
+// host. The tests of what the assistant writes run here; this is the one
+// place to swap for the player's own objects.
+class MenuRuntime {
 public:
     MenuRuntime();
 
-    // Runs a script in the menu's module.
     script::RunResult run(std::string_view code) { return module_.addCode(code); }
 
-    // Every assignment ("Fenetre.Caption=Démo"), message ("MsgBox ...") and
-    // shell request ("Run ...", "OpenTextFile ...") so far.
-    const std::vector<std::string>& log() const { return log_; }
+    // Every assignment ("Fenetre.Caption=Démo") and shell request ("Run ...")
+    // in order, then the prompt of every message ("MsgBox <prompt>").
+    std::vector<std::string> effects() const;
 
-    int msgBox(const script::MsgBoxRequest& request) override;
-    std::optional<std::string> inputBox(const script::InputBoxRequest& request) override;
-    script::HostResult createObject(std::string_view progId) override;
-    script::HostResult loadPicture(std::string_view path) override;
+    script::test::FakeScriptHost host;
 
 private:
-    std::vector<std::string> log_;
-    script::Module module_{this};
+    script::Module module_{&host};
 };
 
 }  // namespace qor::test

@@ -176,24 +176,6 @@ struct EditorFixture : Fixture {
     }
 };
 
-TEST(ScriptEditorFlow, EnterFormatsTheTextTenMillisecondsLaterWhenTicked)
-{
-    for (bool ticked : {true, false}) {
-        EditorFixture f;
-        f.controls.ticked = ticked;
-        f.controls.type("if a=b then msgbox fenetre.caption\r\n", 37);
-        EXPECT_FALSE(f.controls.formatTimer);
-        f.flow.enterTyped();
-        EXPECT_TRUE(f.controls.formatTimer);
-        f.controls.fireTimers();
-        const std::string expected = ticked ? "if a = b then MsgBox fenetre.Caption\r\n"
-                                            : "if a=b then msgbox fenetre.caption\r\n";
-        EXPECT_EQ(f.controls.text(), expected) << ticked;
-        EXPECT_EQ(f.project.button(4).action, expected) << ticked;
-        EXPECT_EQ(f.controls.selection().start, ticked ? 38u : 37u);
-    }
-}
-
 TEST(ScriptEditorFlow, EveryCleanChangeRebuildsTheProcedureList)
 {
     EditorFixture f;
@@ -213,18 +195,6 @@ TEST(ScriptEditorFlow, EveryCleanChangeRebuildsTheProcedureList)
     f.controls.type("Sub C\u00A4", 0);
     f.controls.fireTimers();
     EXPECT_EQ(f.controls.procedureNames, std::vector<std::string>{"C"});
-}
-
-TEST(ScriptEditorFlow, NewProcedureIsAppendedAndWrittenBack)
-{
-    EditorFixture f;
-    f.controls.type("x = 1", 5);
-    EXPECT_EQ(f.flow.addProcedure("Ma proc", ProcedureKind::Sub, ProcedureScope::Public), "Ma_proc");
-    EXPECT_EQ(f.project.button(4).action, "x = 1\r\nPublic Sub Ma_proc()\r\n\r\nEnd Sub");
-    EXPECT_EQ(f.controls.selection().start, 29u);
-
-    EXPECT_FALSE(f.flow.addProcedure("", ProcedureKind::Function, ProcedureScope::Private));
-    EXPECT_EQ(f.project.button(4).action, "x = 1\r\nPublic Sub Ma_proc()\r\n\r\nEnd Sub");
 }
 
 TEST(ScriptEditorFlow, AssistantBlocksReplaceTheSelection)
@@ -271,20 +241,6 @@ TEST(ScriptEditorFlow, CursorIsChosenFromTheBlinkingPrompt)
     EXPECT_FALSE(f.controls.cursorPrompt);
     EXPECT_FALSE(f.flow.cursorPending());
     EXPECT_EQ(f.controls.text(), before);
-}
-
-TEST(ScriptEditorFlow, TestRunAndItsNotice)
-{
-    EditorFixture f;
-    f.flow.testRun();
-    int runs = 0;
-    f.flow.setTestRun([&runs] { ++runs; });
-    f.flow.testRun();
-    EXPECT_EQ(runs, 1);
-    f.flow.showWaitNotice(true);
-    EXPECT_TRUE(f.controls.notice);
-    f.flow.showWaitNotice(false);
-    EXPECT_FALSE(f.controls.notice);
 }
 
 }  // namespace
