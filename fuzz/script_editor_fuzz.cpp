@@ -41,7 +41,10 @@ void checkFormatter(std::string_view text, std::size_t caret)
     const auto result = formatScript(text, caret);
     if (result) {
         require(result->text == formatted);
-        require(result->caret <= utf8Length(result->text));
+        const auto oldLength = static_cast<long long>(utf8Length(text));
+        const auto newLength = static_cast<long long>(utf8Length(formatted));
+        const long long moved = std::min<long long>(static_cast<long long>(caret), oldLength) + newLength - oldLength + 2;
+        require(result->caret == static_cast<std::size_t>(std::clamp(moved, 0LL, newLength)));
     } else {
         require(formatted == text || utf8Length(text) > kMaxFormattedLength);
     }

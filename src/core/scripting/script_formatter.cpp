@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "core/scripting/script_lines.h"
 #include "text/line_file.h"
@@ -49,13 +50,32 @@ bool matchesAt(std::string_view text, std::size_t at, std::string_view pattern)
     return true;
 }
 
-// Where the next match starts at or after from, or npos.
+// The next place at or after from that holds c, or null.
+const char* nextOf(std::string_view text, char c, std::size_t from, std::size_t last)
+{
+    return from < last ? static_cast<const char*>(std::memchr(text.data() + from, c, last - from)) : nullptr;
+}
+
+// Where the next match starts at or after from, or npos. The first
+// character is looked for with memchr, in both cases when it is a letter;
+// each case resumes after its own last find, so the walk stays linear.
 std::size_t findFrom(std::string_view text, std::string_view pattern, std::size_t from)
 {
-    const char first = foldAscii(pattern[0]);
-    for (std::size_t i = from; i + pattern.size() <= text.size(); ++i)
-        if (foldAscii(text[i]) == first && matchesAt(text, i, pattern))
-            return i;
+    const char lower = foldAscii(pattern[0]);
+    const char upper = lower >= 'a' && lower <= 'z' ? char(lower - 'a' + 'A') : lower;
+    const std::size_t last = text.size() < pattern.size() ? 0 : text.size() - pattern.size() + 1;
+    const char* a = nextOf(text, lower, from, last);
+    const char* b = upper == lower ? nullptr : nextOf(text, upper, from, last);
+    while (a || b) {
+        const char* hit = !a ? b : !b ? a : std::min(a, b);
+        const auto at = static_cast<std::size_t>(hit - text.data());
+        if (matchesAt(text, at, pattern))
+            return at;
+        if (hit == a)
+            a = nextOf(text, lower, at + 1, last);
+        if (hit == b)
+            b = nextOf(text, upper, at + 1, last);
+    }
     return std::string_view::npos;
 }
 
@@ -82,9 +102,16 @@ void applyRewrite(std::string& text, const Rewrite& r)
     text = std::move(out);
 }
 
+constexpr std::array<bool, 256> kIsOperator = [] {
+    std::array<bool, 256> table{};
+    for (char c : kOperators)
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
+
 bool isOperator(char c)
 {
-    return kOperators.find(c) != std::string_view::npos;
+    return kIsOperator[static_cast<unsigned char>(c)];
 }
 
 // Appends the character at line[at] in upper case and says how many bytes it
@@ -168,7 +195,9 @@ std::optional<FormattedScript> formatScript(std::string_view text, std::size_t c
     std::string out = formattedScript(text);
     if (out == text)
         return std::nullopt;
-    const auto newLength = static_cast<long long>(utf8Length(out));
+    // Formatting adds and drops ASCII only and swaps a letter for its
+    // capital of the same size, so the text grows in characters as in bytes.
+    const auto newLength = static_cast<long long>(oldLength + out.size()) - static_cast<long long>(text.size());
     const long long moved = static_cast<long long>(std::min(caret, oldLength)) + newLength -
                             static_cast<long long>(oldLength) + 2;
     const auto at = static_cast<std::size_t>(std::clamp(moved, 0LL, newLength));
