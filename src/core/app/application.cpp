@@ -16,6 +16,8 @@ Application::Application(Platform p)
       shell_(state_, AppPorts{p.dialogs, p.settings, p.desktop, p.screen, p.fileTypes}, p.shellView, settings_,
              recentFiles_, lifecycle_)
 {
+    // The script editor's F5 runs the same test as the main window's command.
+    scriptEditor_.setTestRun([this] { shell_.run(CommandId::TestProject); });
 }
 
 }  // namespace qor

@@ -1,0 +1,3 @@
+ÿÿ"unbalanced = a.b
+x = "open
+' "
