@@ -16,6 +16,14 @@ Application::Application(Platform p)
       shell_(state_, AppPorts{p.dialogs, p.settings, p.desktop, p.screen, p.fileTypes}, p.shellView, settings_,
              recentFiles_, lifecycle_)
 {
+    if (p.buildView) {
+        build_.emplace(project_,
+                       BuildPorts{p.dialogs, p.files ? *p.files : localFiles_, p.baker ? *p.baker : noBaker_,
+                                  *p.buildView},
+                       BuildSettings{state_.programFolder, state_.phrases, state_.options.requireMediaFile,
+                                     kApplicationTitle});
+        shell_.setBuild(&*build_);
+    }
 }
 
 }  // namespace qor

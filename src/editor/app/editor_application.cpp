@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QShortcut>
 
 #include "core/app/command_line.h"
 #include "core/project/file_info.h"
@@ -17,11 +18,13 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
       shellView_(windows_),
       projectViews_(windows_),
       documentView_(windows_),
+      buildView_(windows_, hooks),
       core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
-                     ports.qmbConverter, shellView_, projectViews_, documentView_}),
+                     ports.qmbConverter, shellView_, projectViews_, documentView_, &buildView_}),
       scriptEditorView_(windows_, core_.scriptEditor())
 {
     core_.scriptEditor().setView(&scriptEditorView_);
+    buildView_.setBuild(core_.build());
     shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
     documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
         applyAuthorFields(core_.project(), fields);
@@ -53,6 +56,9 @@ void EditorApplication::connectWindow(WindowId window)
         break;
     }
     case WindowId::Worksheet:
+        // F5 tests the project.
+        QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), &windows_.worksheet()), &QShortcut::activated,
+                         &windows_.worksheet(), [&shell] { shell.run(CommandId::TestProject); });
         // Files dropped from the desktop: the last one opens, after the question.
         QObject::connect(&windows_.worksheet(), &WorksheetWindow::filesDropped, &windows_.worksheet(),
                          [this](const QStringList& files) {
