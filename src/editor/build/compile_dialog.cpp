@@ -25,8 +25,8 @@ const char* const CompileDialog::kInstruction =
 
 namespace {
 
-// The progress bar counts in kibibytes: a 600 MB copy stays inside an int.
-constexpr std::uint64_t kProgressUnit = 1024;
+// The progress bar counts in thousandths of the bytes to copy, whatever their total.
+constexpr int kProgressSteps = 1000;
 
 }  // namespace
 
@@ -100,7 +100,7 @@ QWidget* CompileDialog::buildProgressFrame()
     status_ = named(new QLabel(QStringLiteral("En attente de validation du répertoire...")), "Label2");
     step_ = named(new QLabel, "Label3");
     progress_ = named(new QProgressBar, "ProgressBar1");
-    progress_->setRange(0, 1);
+    progress_->setRange(0, kProgressSteps);
     progress_->setValue(0);
     column->addWidget(status_);
     column->addWidget(step_);
@@ -173,8 +173,8 @@ void CompileDialog::setStep(const std::string& text)
 
 void CompileDialog::setProgress(std::uint64_t done, std::uint64_t total)
 {
-    progress_->setRange(0, int(std::max<std::uint64_t>(1, total / kProgressUnit)));
-    progress_->setValue(int(std::min(done, total) / kProgressUnit));
+    const std::uint64_t part = total == 0 ? kProgressSteps : std::min(done, total) * kProgressSteps / total;
+    progress_->setValue(int(part));
     repaintNow();
 }
 
