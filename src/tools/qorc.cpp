@@ -20,9 +20,9 @@
 #include "core/project/no_project_hooks.h"
 #include "core/project/project_file.h"
 #include "core/ui/phrases.h"
-#include "qorc_baker.h"
-#include "qorc_console.h"
 #include "text/text_helpers.h"
+#include "tools/qorc_baker.h"
+#include "tools/qorc_console.h"
 
 namespace qor {
 namespace {

@@ -1,4 +1,4 @@
-#include "qorc_baker.h"
+#include "tools/qorc_baker.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "qorc_console.h"
+#include "tools/qorc_console.h"
 
 #include <ostream>
 
