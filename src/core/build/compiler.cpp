@@ -45,7 +45,8 @@ CompileOutcome Compiler::compile(const MenuProject& project, CompileRequest requ
         return CompileOutcome::Failed;
     }
     view.setInstruction(compileFinalText(request.target));
-    view.setStatus("Terminé.", CompileView::kNormalColour);
+    // The label keeps the colour it took when copying began.
+    view.setStatus("Terminé.", kFolderOkColour);
     if (request.subMenu)
         dialogs_.message(subMenuCreatedMessage(request.subMenuName));
     return CompileOutcome::Done;
