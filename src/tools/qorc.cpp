@@ -1,7 +1,5 @@
 // qorc: builds a project without the editor. See kHelp below and the README.
 
-#include <QCoreApplication>
-
 #include <unistd.h>
 
 #include <csignal>
@@ -13,15 +11,12 @@
 #include <vector>
 
 #include "core/build/compiler.h"
+#include "core/build/headless_project.h"
 #include "core/build/html_launcher.h"
 #include "core/build/iso_image.h"
 #include "core/build/local_file_system.h"
 #include "core/build/local_program_runner.h"
-#include "core/project/no_project_hooks.h"
-#include "core/project/project_file.h"
-#include "core/ui/phrases.h"
 #include "text/text_helpers.h"
-#include "tools/qorc_baker.h"
 #include "tools/qorc_console.h"
 
 namespace qor {
@@ -148,12 +143,13 @@ private:
     int html();
     int iso();
 
+    bool bake();
+
     const Arguments& args_;
     std::string program_;
     ConsoleDialogs dialogs_{std::cerr, args_.yes};
     ConsoleCompileView view_{std::cout};
     LocalFileSystem files_;
-    Phrases phrases_;
     MenuProject project_;
     BuildState state_;
 };
@@ -171,12 +167,7 @@ int Builder::run()
 
 bool Builder::load()
 {
-    NoProjectHooks hooks;
-    NoProjectRoutes routes;
-    ProjectServices services{dialogs_, phrases_, hooks, routes};
-    loadProject(project_, args_.positional[0], true, services);
-    // A project that could not be read (or whose reading was given up) has no file.
-    if (project_.filePath.empty()) {
+    if (!loadProjectWithoutViews(project_, args_.positional[0], dialogs_)) {
         std::cerr << "Le projet '" << args_.positional[0] << "' n'a pas pu être lu.\n";
         return false;
     }
@@ -198,9 +189,35 @@ CompileRequest Builder::request(const std::string& target) const
     return r;
 }
 
+// The baker is a program of its own: only projects with transparent
+// buttons pay for loading Qt's image classes. It is taken from qorc's own
+// folder, never from the PATH, so that a stray program of that name is
+// never run. Without its images the compilation would copy missing or stale
+// "_transp.bmp" files, so a baker that cannot run ends the build.
+bool Builder::bake()
+{
+    if (!needsBaking(project_))
+        return true;
+    const std::string baker = program_ + "qorbake";
+    LocalProgramRunner runner;
+    const Result<int> status = runner.run(baker, {project_.filePath});
+    if (!status) {
+        std::cerr << "Erreur : le programme '" << baker << "' qui calcule les images des boutons transparents "
+                  << "n'a pas pu être lancé (" << status.error().description << ").\n";
+        return false;
+    }
+    if (*status != 0) {
+        std::cerr << "Erreur : les images des boutons transparents n'ont pas pu être calculées ('" << baker
+                  << "' a échoué, code " << *status << ").\n";
+        return false;
+    }
+    return true;
+}
+
 int Builder::compileInto(const std::string& target)
 {
-    HeadlessBaker(project_).bakeAllButtons();
+    if (!bake())
+        return kFailed;
     Compiler compiler(files_, dialogs_, state_);
     const CompileOutcome outcome = compiler.compile(project_, request(target), {program_, true}, view_);
     return outcome == CompileOutcome::Done ? kOk : kFailed;
@@ -260,7 +277,5 @@ int main(int argc, char** argv)
         std::cerr << qor::kHelp;
         return qor::kUsage;
     }
-    // Image reading (JPEG, GIF) comes from Qt's plug-ins; no display is needed.
-    QCoreApplication app(argc, argv);
     return qor::Builder(*args, qor::programFolder(argv[0])).run();
 }

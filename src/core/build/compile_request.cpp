@@ -62,6 +62,16 @@ bool fitsCp1252(const std::string& text)
     return decodeCp1252(encodeCp1252(text)) == text;
 }
 
+bool needsBaking(const MenuProject& project)
+{
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
+        const MenuButton& b = project.button(n);
+        if (b.kind != button_kind::deleted && b.transparent && !b.normalImage.empty())
+            return true;
+    }
+    return false;
+}
+
 std::optional<std::string> unwritableFileName(const MenuProject& project)
 {
     std::vector<const std::string*> paths = {&project.backgroundImage, &project.backgroundMusic, &project.clickSound,

@@ -52,6 +52,10 @@ bool isPlainFileName(const std::string& name);
 // line names files in that code page.
 bool fitsCp1252(const std::string& text);
 
+// True when some button shows baked images: a live, transparent button
+// with its normal image.
+bool needsBaking(const MenuProject& project);
+
 // The first file name a compilation would name in the data (or copy) that
 // Windows-1252 cannot hold; nothing when all can be written.
 std::optional<std::string> unwritableFileName(const MenuProject& project);

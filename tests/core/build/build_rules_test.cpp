@@ -107,6 +107,33 @@ TEST(IsoImage, XorrisoIsAskedForJolietAndRockRidge)
     EXPECT_NE(missing.error().description.find("xorriso"), std::string::npos);
 }
 
+TEST(Baking, OnlyLiveTransparentButtonsWithAnImage)
+{
+    struct Row {
+        int slot;
+        std::string_view kind;
+        bool transparent;
+        const char* image;
+        bool expected;
+    } rows[] = {
+        {1, button_kind::code, true, "b.bmp", true},
+        {100, button_kind::video, true, "b.bmp", true},
+        {1, button_kind::code, false, "b.bmp", false},
+        {1, button_kind::deleted, true, "b.bmp", false},
+        {1, button_kind::code, true, "", false},
+        {0, button_kind::code, true, "b.bmp", false},  // the hidden template is never compiled
+    };
+    for (const auto& r : rows) {
+        MenuProject p;
+        MenuButton& b = p.button(r.slot);
+        b.kind = r.kind;
+        b.transparent = r.transparent;
+        b.normalImage = r.image;
+        EXPECT_EQ(needsBaking(p), r.expected) << r.slot << ' ' << r.kind << ' ' << r.transparent << r.image;
+    }
+    EXPECT_FALSE(needsBaking(MenuProject()));
+}
+
 TEST(FileNames, PlainNamesOnly)
 {
     for (const char* good : {"Intro", "menu 2", "été"})

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # qorc end to end: builds, refusals, HTML launcher and CD image of a small
 # project, in a program folder of its own with a stand-in player.
-#   run_qorc_tests.sh QORC RESOURCES_PROGRAM_FOLDER
+#   run_qorc_tests.sh QORC QORBAKE RESOURCES_PROGRAM_FOLDER
 set -u
 qorc_built=$1
-resources=$2
+qorbake_built=$2
+resources=$3
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'chattr -R -i "$work" 2>/dev/null; rm -rf "$work"' EXIT
@@ -19,6 +20,7 @@ check() {  # check NAME COMMAND...
 prog=$work/prog
 mkdir -p "$prog" "$work/proj/videos"
 cp "$qorc_built" "$prog/qorc"
+cp "$qorbake_built" "$prog/qorbake"
 cp "$resources/autorun.ico" "$resources/install.bat" "$prog/"
 printf 'MZ stand-in player' > "$prog/compil.exe"
 qorc=$prog/qorc
@@ -111,6 +113,27 @@ if [ "$ro" = yes ]; then
   check "read-only target fails" [ $? -eq 1 ] && check "its message" grep -q "Erreur durant la compilation" "$work/err"
   chattr -i "$work/readonly" 2>/dev/null; chmod u+w "$work/readonly"
 fi
+
+# --- the baker: started from qorc's own folder, only for transparent buttons
+check "qorc links no Qt" [ -z "$(ldd "$qorc" | grep -i libqt)" ]
+LC_ALL=C awk 'NR==57 { $0 = " 0 \r" } 1' "$project" > "$work/proj/opaque.qor"
+check "opaque copy differs only by the flag" [ "$(cmp -l "$project" "$work/proj/opaque.qor" | wc -l)" -eq 1 ]
+mv "$prog/qorbake" "$prog/qorbake.bak"
+mkdir -p "$work/opaque"
+"$qorc" build "$work/proj/opaque.qor" "$work/opaque" > /dev/null 2> "$work/err"
+check "opaque project builds without qorbake" [ $? -eq 0 ] && check "with no baked image" [ -z "$(ls "$work/opaque/qor" | grep _transp)" ]
+mkdir -p "$work/path"; printf '#!/bin/sh\ntouch "%s/path/ran"\n' "$work" > "$work/path/qorbake"; chmod +x "$work/path/qorbake"
+mkdir -p "$work/nobaker"
+PATH="$work/path:$PATH" "$qorc" build "$project" "$work/nobaker" > /dev/null 2> "$work/err"
+check "missing qorbake fails" [ $? -eq 1 ] && check "its message" grep -q "qorbake' qui calcule les images des boutons transparents n'a pas pu être lancé" "$work/err"
+check "no qorbake taken from the PATH" [ ! -e "$work/path/ran" ]
+check "nothing compiled without the baker" [ ! -e "$work/nobaker/qor" ] && check "nor Autorun.inf" [ ! -e "$work/nobaker/Autorun.inf" ]
+printf '#!/bin/sh\nexit 3\n' > "$prog/qorbake"; chmod +x "$prog/qorbake"
+mkdir -p "$work/badbaker"
+"$qorc" build "$project" "$work/badbaker" > /dev/null 2> "$work/err"
+check "failing qorbake fails" [ $? -eq 1 ] && check "its message" grep -q "a échoué, code 3" "$work/err"
+check "nothing compiled after a failed bake" [ ! -e "$work/badbaker/qor" ]
+mv "$prog/qorbake.bak" "$prog/qorbake"
 
 # --- HTML launcher
 mkdir -p "$work/web"
