@@ -39,7 +39,8 @@ Error fileSystemError(int e)
     switch (std::errc(e)) {
     case std::errc::no_such_file_or_directory: return makeError(err::FileNotFound, text);
     case std::errc::not_a_directory: return makeError(err::PathNotFound, text);
-    case std::errc::no_space_on_device: return makeError(err::DiskFull, text);
+    case std::errc::no_space_on_device:
+    case std::errc::file_too_large: return makeError(err::DiskFull, text);
     case std::errc::permission_denied:
     case std::errc::operation_not_permitted:
     case std::errc::read_only_file_system: return makeError(err::PermissionDenied, text);

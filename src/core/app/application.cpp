@@ -18,6 +18,14 @@ Application::Application(Platform p)
 {
     // The script editor's F5 runs the same test as the main window's command.
     scriptEditor_.setTestRun([this] { shell_.run(CommandId::TestProject); });
+    if (p.buildView) {
+        build_.emplace(project_,
+                       BuildPorts{p.dialogs, p.files ? *p.files : localFiles_, p.baker ? *p.baker : noBaker_,
+                                  *p.buildView},
+                       BuildSettings{state_.programFolder, state_.phrases, state_.options.requireMediaFile,
+                                     kApplicationTitle});
+        shell_.setBuild(&*build_);
+    }
 }
 
 }  // namespace qor

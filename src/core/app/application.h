@@ -1,10 +1,14 @@
 #pragma once
 
+#include <optional>
+
 #include "core/app/app_state.h"
 #include "core/app/recent_files.h"
 #include "core/app/shell.h"
 #include "core/app/shell_view.h"
 #include "core/app/user_settings.h"
+#include "core/build/build_flows.h"
+#include "core/build/local_file_system.h"
 #include "core/designer/selection.h"
 #include "core/ports/qmb_converter.h"
 #include "core/project/document_lifecycle.h"
@@ -29,6 +33,11 @@ struct Platform {
     // startup choice, current folder.
     ProjectHooks& projectViews;
     DocumentView& documentView;
+    // The build's screen; without it the build commands do nothing. Its
+    // files default to the machine's disks, its baking to none.
+    BuildView* buildView = nullptr;
+    FileSystem* files = nullptr;
+    ButtonBaker* baker = nullptr;
 };
 
 // Everything one run of the editor holds, built in dependency order: the
@@ -49,6 +58,8 @@ public:
     QmbImport& qmbImport() { return qmb_; }
     Selection& selection() { return selection_; }
     ScriptEditorFlow& scriptEditor() { return scriptEditor_; }
+    // Nothing when the platform gave no build view.
+    BuildFlows* build() { return build_ ? &*build_ : nullptr; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -74,6 +85,9 @@ private:
     DocumentLifecycle lifecycle_;
     QmbImport qmb_;
     Shell shell_;
+    LocalFileSystem localFiles_;
+    NoButtonBaker noBaker_;
+    std::optional<BuildFlows> build_;
 };
 
 }  // namespace qor

@@ -154,19 +154,32 @@ void Shell::run(CommandId command, int position)
     case C::Support: mainWindow_.showSupport(); break;
     case C::BugReport: mainWindow_.reportBug(); break;
     case C::VersionCheck: mainWindow_.checkVersion(); break;
-    // "En ecran de veille" never does anything.
-    case C::CompileScreenSaver: break;
-    // Printing, test runs, compilation and the about window come with their own parts.
-    case C::PrintToBmp:
-    case C::PrintToClipboard:
-    case C::PrintToPaper:
     case C::TestProject:
     case C::CompileAutorun:
     case C::CompileExecutable:
-    case C::CompileHtml:
+    case C::CompileHtml: runBuild(command); break;
+    // "En ecran de veille" never does anything.
+    case C::CompileScreenSaver: break;
+    // Printing and the about window come with their own parts.
+    case C::PrintToBmp:
+    case C::PrintToClipboard:
+    case C::PrintToPaper:
     case C::About:
     default:
         break;
+    }
+}
+
+void Shell::runBuild(CommandId command)
+{
+    if (!build_)
+        return;
+    switch (command) {
+    case CommandId::TestProject: build_->testRun(); break;
+    case CommandId::CompileAutorun: build_->openCompileDialog(); break;
+    case CommandId::CompileExecutable: build_->exportExecutable(); break;
+    case CommandId::CompileHtml: build_->exportHtml(); break;
+    default: break;
     }
 }
 

@@ -9,6 +9,7 @@
 #include "core/app/recent_files.h"
 #include "core/app/shell_view.h"
 #include "core/app/user_settings.h"
+#include "core/build/build_commands.h"
 #include "core/ports/desktop.h"
 #include "core/ports/dialogs.h"
 #include "core/ports/file_type_registry.h"
@@ -51,6 +52,9 @@ public:
     // The start-up routine, from the command line to the windows shown.
     StartOutcome start(const StartupInputs& inputs);
 
+    // Where the build commands go; without them they do nothing.
+    void setBuild(BuildCommands* build) { build_ = build; }
+
     // The properties panel became the active window. The first time, the
     // project named on the command line is loaded; later activations do nothing.
     void propertiesPanelActivated();
@@ -73,6 +77,7 @@ public:
 
 private:
     void chooseLanguage(int item);
+    void runBuild(CommandId command);
     void writeFirstRunFiles();
 
     AppState& state_;
@@ -85,6 +90,7 @@ private:
     Plugins plugins_;
     MainWindowFlows mainWindow_;
     bool startupProjectHandled_ = false;
+    BuildCommands* build_ = nullptr;
 };
 
 // Shown when start-up cannot write the default "apparences.ini".

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QShortcut>
 
 #include "core/app/command_line.h"
 #include "core/project/file_info.h"
@@ -18,13 +19,15 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
       shellView_(windows_),
       projectViews_(windows_),
       documentView_(windows_),
+      buildView_(windows_, hooks),
       core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
-                     ports.qmbConverter, shellView_, projectViews_, documentView_}),
+                     ports.qmbConverter, shellView_, projectViews_, documentView_, &buildView_}),
       scriptEditorView_(windows_, core_.scriptEditor()),
       wizard_({core_.state().wizardOpen, ports.dialogs, ports.desktop, core_.document(), ports.screen.metrics(),
                core_.state().programFolder, hooks})
 {
     core_.scriptEditor().setView(&scriptEditorView_);
+    buildView_.setBuild(core_.build());
     // The wizard opens over the main window, and takes over from the splash.
     shellView_.creationWizardRequested = [this] {
         wizard_.open(windows_.isLoaded(WindowId::Main) ? &windows_.main() : nullptr);
@@ -61,6 +64,9 @@ void EditorApplication::connectWindow(WindowId window)
         break;
     }
     case WindowId::Worksheet:
+        // F5 tests the project.
+        QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), &windows_.worksheet()), &QShortcut::activated,
+                         &windows_.worksheet(), [&shell] { shell.run(CommandId::TestProject); });
         // Files dropped from the desktop: the last one opens, after the question.
         QObject::connect(&windows_.worksheet(), &WorksheetWindow::filesDropped, &windows_.worksheet(),
                          [this](const QStringList& files) {

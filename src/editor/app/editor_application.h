@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "core/app/application.h"
+#include "editor/app/editor_build_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
 #include "editor/app/editor_shell_view.h"
@@ -45,6 +46,7 @@ public:
     EditorShellView& shellView() { return shellView_; }
     ProjectViews& projectViews() { return projectViews_; }
     EditorWizard& wizard() { return wizard_; }
+    EditorBuildView& buildView() { return buildView_; }
 
 private:
     void connectWindow(WindowId window);
@@ -53,6 +55,7 @@ private:
     EditorShellView shellView_;
     ProjectViews projectViews_;
     EditorDocumentView documentView_;
+    EditorBuildView buildView_;
     Application core_;
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;

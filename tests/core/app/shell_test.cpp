@@ -242,7 +242,7 @@ TEST_F(ShellFixture, CommandsReachTheirFlows)
     for (CommandId id : {CommandId::PrintToBmp, CommandId::PrintToClipboard, CommandId::PrintToPaper,
                          CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
                          CommandId::CompileScreenSaver, CommandId::CompileHtml, CommandId::About})
-        shell->run(id);
+        shell->run(id);  // no build commands given: the build ones do nothing either
     EXPECT_TRUE(document.calls.empty());
     EXPECT_EQ(view.log, logBefore);
     EXPECT_EQ(dialogs.messages.size(), messagesBefore);
@@ -257,6 +257,27 @@ TEST_F(ShellFixture, CommandsReachTheirFlows)
     shell->run(CommandId::AssociateFiles);
     EXPECT_EQ(dialogs.lastMessage(), filesAssociatedMessage());
     EXPECT_EQ(fileTypes.registrations.size(), 2u);
+}
+
+// Records the build commands the shell hands on.
+class RecordingBuild : public BuildCommands {
+public:
+    std::vector<std::string> calls;
+    void openCompileDialog() override { calls.push_back("compile dialog"); }
+    void testRun() override { calls.push_back("test run"); }
+    void exportExecutable() override { calls.push_back("executable"); }
+    void exportHtml() override { calls.push_back("html"); }
+};
+
+TEST_F(ShellFixture, BuildCommandsGoToTheBuild)
+{
+    ASSERT_EQ(start(), StartOutcome::Running);
+    RecordingBuild build;
+    shell->setBuild(&build);
+    for (CommandId id : {CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
+                         CommandId::CompileScreenSaver, CommandId::CompileHtml})
+        shell->run(id);
+    EXPECT_EQ(build.calls, (std::vector<std::string>{"test run", "compile dialog", "executable", "html"}));
 }
 
 TEST_F(ShellFixture, ChoosingALanguageStoresItForTheNextStart)

@@ -1,0 +1,90 @@
+#include "core/build/compile_request.h"
+
+#include "core/build/program_files.h"
+#include "text/cp1252.h"
+#include "text/text_helpers.h"
+#include "text/utf8.h"
+
+namespace qor {
+
+std::string defaultProjectName(const MenuProject& project)
+{
+    if (project.filePath.empty())
+        return kGenericProjectName;
+    const std::string name = fileNameOf(project.filePath);
+    // The name less its last four characters: ".qor" (or whatever stands there).
+    const std::size_t count = utf8Length(name);
+    return count > 4 ? leftChars(name, count - 4) : std::string();
+}
+
+std::string defaultAuthor(const MenuProject& project)
+{
+    if (project.authorEmail.empty())
+        return project.authorName;
+    return project.authorName + " (" + project.authorEmail + ")";
+}
+
+CompileRequest compileDefaults(const MenuProject& project, const std::string& homeFolder)
+{
+    CompileRequest r;
+    r.target = withTrailingSeparator(homeFolder);
+    r.projectName = defaultProjectName(project);
+    r.author = defaultAuthor(project);
+    return r;
+}
+
+CompileFieldStates compileFieldStates(bool subMenuTicked)
+{
+    return CompileFieldStates{subMenuTicked, !subMenuTicked};
+}
+
+std::string iconPreviewPath(const MenuProject& project, const std::string& programFolder)
+{
+    if (isDefaultIconMarker(project.icon))
+        return programFolder + std::string(program_files::icon);
+    return project.resolve(project.icon);
+}
+
+std::string normalisedTarget(const std::string& typed)
+{
+    if (!typed.empty() && typed.back() == '/')
+        return typed;
+    return typed + "/";
+}
+
+bool isPlainFileName(const std::string& name)
+{
+    return !name.empty() && name != "." && name != ".." && !hasSeparator(name) && fitsCp1252(name);
+}
+
+bool fitsCp1252(const std::string& text)
+{
+    return decodeCp1252(encodeCp1252(text)) == text;
+}
+
+bool needsBaking(const MenuProject& project)
+{
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
+        const MenuButton& b = project.button(n);
+        if (b.kind != button_kind::deleted && b.transparent && !b.normalImage.empty())
+            return true;
+    }
+    return false;
+}
+
+std::optional<std::string> unwritableFileName(const MenuProject& project)
+{
+    std::vector<const std::string*> paths = {&project.backgroundImage, &project.backgroundMusic, &project.clickSound,
+                                             &project.hoverSound, &project.transparencyImage};
+    for (const MenuButton* b : project.savableButtons())
+        for (const std::string* image : {&b->normalImage, &b->hoverImage, &b->pressedImage})
+            paths.push_back(image);
+    for (const std::string* path : paths) {
+        const std::string name = fileNameOf(*path);
+        if (!fitsCp1252(name))
+            return name;
+    }
+    return std::nullopt;
+}
+
+}  // namespace qor

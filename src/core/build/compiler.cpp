@@ -1,0 +1,150 @@
+#include "core/build/compiler.h"
+
+#include "core/build/autorun_inf.h"
+#include "core/build/build_messages.h"
+#include "core/build/menu_data_file.h"
+
+namespace qor {
+namespace {
+
+// The first "vidéo" button without its media file, or 0.
+int buttonWithoutMedia(const MenuProject& project)
+{
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
+        const MenuButton& b = project.button(n);
+        if (b.kind == button_kind::video && b.action.empty())
+            return n;
+    }
+    return 0;
+}
+
+}  // namespace
+
+Compiler::Compiler(FileSystem& files, Dialogs& dialogs, BuildState& state)
+    : files_(files), dialogs_(dialogs), state_(state)
+{
+}
+
+CompileOutcome Compiler::compile(const MenuProject& project, CompileRequest request, const CompileEnvironment& env,
+                                 CompileView& view)
+{
+    state_.compileFailed = false;
+    request.target = normalisedTarget(request.target);
+    view.setTarget(request.target);
+    if (CompileOutcome o = check(project, request, env); o != CompileOutcome::Done)
+        return o;
+
+    view.setFieldsEnabled(false);
+    view.setStatus("Dossier OK. Copie des fichiers :", kFolderOkColour);
+    const CompilePlan plan = compilePlan(project, request, env.programFolder);
+    if (Status s = run(project, request, plan, view); !s) {
+        (void)files_.removeFile(plan.partialPlayer);
+        dialogs_.message(compilationFailedMessage(s.error()));
+        state_.compileFailed = true;
+        view.setFieldsEnabled(true);
+        return CompileOutcome::Failed;
+    }
+    view.setInstruction(compileFinalText(request.target));
+    // The label keeps the colour it took when copying began.
+    view.setStatus("Terminé.", kFolderOkColour);
+    if (request.subMenu)
+        dialogs_.message(subMenuCreatedMessage(request.subMenuName));
+    return CompileOutcome::Done;
+}
+
+CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest& request,
+                               const CompileEnvironment& env)
+{
+    if (!files_.isFolder(request.target))
+        return refuse(incorrectFolderMessage(), true);
+    if (env.requireMediaFile)
+        if (int n = buttonWithoutMedia(project))
+            return refuse(forgottenMediaMessage(n), true);
+    if (auto name = unwritableFileName(project))
+        return refuse(unwritableFileNameMessage(*name), true);
+    return request.subMenu ? checkSubMenu(request) : checkMainMenu(request.target);
+}
+
+CompileOutcome Compiler::checkMainMenu(const std::string& target)
+{
+    const std::string qor = target + "qor";
+    const EntryKind kind = files_.kind(qor);
+    if (kind == EntryKind::None)
+        return CompileOutcome::Done;
+    // Emptying a link would empty the folder it points to, outside the target.
+    if (kind != EntryKind::Folder)
+        return refuse(qorNotAFolderMessage(target), true);
+    if (dialogs_.message(replaceCompilationQuestion(target)) != Answer::Yes)
+        return CompileOutcome::Declined;
+    // What cannot be removed (a sub-folder, say) stays and is reused.
+    files_.removeFilesIn(qor + "/");
+    (void)files_.removeFolder(qor);
+    return CompileOutcome::Done;
+}
+
+CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
+{
+    if (!isPlainFileName(request.subMenuName))
+        return refuse(badFileNameMessage(request.subMenuName, "Sous menu"), false);
+    const EntryKind kind = files_.kind(request.target + "qor");
+    if (kind == EntryKind::None)
+        return refuse(noMainMenuMessage(), false);
+    if (kind != EntryKind::Folder)
+        return refuse(qorNotAFolderMessage(request.target), true);
+    if (files_.kind(request.target + "qor/" + request.subMenuName + ".exe") != EntryKind::None)
+        return refuse(subMenuExistsMessage(), false);
+    return CompileOutcome::Done;
+}
+
+CompileOutcome Compiler::refuse(const Message& message, bool setsFlag)
+{
+    dialogs_.message(message);
+    if (setsFlag)
+        state_.compileFailed = true;
+    return CompileOutcome::Refused;
+}
+
+Status Compiler::run(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan,
+                     CompileView& view)
+{
+    done_ = 0;
+    total_ = 0;
+    for (const auto& a : plan.actions)
+        if (a.kind == CompileAction::Kind::Copy)
+            total_ += files_.fileSize(a.source).value_or(0);
+    view.setProgress(0, total_);
+    for (const auto& a : plan.actions)
+        if (Status s = perform(a, project, request, view); !s)
+            return s;
+    view.setProgress(total_, total_);
+    return {};
+}
+
+Status Compiler::perform(const CompileAction& a, const MenuProject& project, const CompileRequest& request,
+                         CompileView& view)
+{
+    using K = CompileAction::Kind;
+    switch (a.kind) {
+    case K::Show: view.setStep(a.text); return {};
+    case K::WriteAutorunInf: return files_.writeFile(a.target, autorunInfBytes());
+    case K::CreateFolder:
+        return files_.kind(a.target) == EntryKind::Folder ? Status() : files_.createFolder(a.target);
+    case K::Copy: {
+        if (a.keepExisting && files_.kind(a.target) != EntryKind::None)
+            return {};
+        const std::uint64_t before = done_;
+        Status s = files_.copyFile(a.source, a.target, [&](std::uint64_t bytes) {
+            done_ = before + bytes;
+            view.setProgress(done_, total_);
+        });
+        done_ = before + files_.fileSize(a.source).value_or(0);
+        return s;
+    }
+    case K::WriteData:
+        return writeMenuData(files_, project, MenuDataInfo{request.projectName, request.author}, a.target);
+    case K::Rename: return files_.rename(a.source, a.target);
+    }
+    return {};
+}
+
+}  // namespace qor
