@@ -5,6 +5,7 @@
 #include "core/app/shell.h"
 #include "core/app/shell_view.h"
 #include "core/app/user_settings.h"
+#include "core/designer/designer.h"
 #include "core/designer/selection.h"
 #include "core/ports/qmb_converter.h"
 #include "core/project/document_lifecycle.h"
@@ -49,6 +50,7 @@ public:
     QmbImport& qmbImport() { return qmb_; }
     Selection& selection() { return selection_; }
     ScriptEditorFlow& scriptEditor() { return scriptEditor_; }
+    Designer& designer() { return designer_; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -69,6 +71,8 @@ private:
     MenuProject project_;
     Selection selection_;
     ScriptEditorFlow scriptEditor_;
+    // Stands between the project reader and the platform's views.
+    Designer designer_;
     Routes routes_;
     ProjectServices services_;
     DocumentLifecycle lifecycle_;

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "core/app/application.h"
+#include "editor/app/editor_designer_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
 #include "editor/app/editor_shell_view.h"
@@ -46,6 +47,8 @@ public:
 
 private:
     void connectWindow(WindowId window);
+    void connectWorksheet();
+    void connectToolbox();
 
     EditorWindows windows_;
     EditorShellView shellView_;
@@ -53,6 +56,7 @@ private:
     EditorDocumentView documentView_;
     Application core_;
     EditorScriptEditorView scriptEditorView_;
+    EditorDesignerView designerView_;
 };
 
 // What start-up needs from the platform: the executable's path, the
