@@ -248,6 +248,15 @@ WorksheetTarget WorksheetWindow::targetAt(QPoint pos, const QWidget* skip) const
     return WorksheetTarget::background();
 }
 
+WorksheetTarget WorksheetWindow::targetOf(QWidget* w) const
+{
+    if (auto* b = qobject_cast<ButtonElement*>(w))
+        return WorksheetTarget::button(b->number());
+    if (auto* t = w ? qobject_cast<TextElement*>(w->parentWidget()) : nullptr)
+        return WorksheetTarget::text(t->number());
+    return WorksheetTarget::background();
+}
+
 QWidget* WorksheetWindow::elementOf(WorksheetTarget target)
 {
     switch (target.kind) {
@@ -287,7 +296,8 @@ bool WorksheetWindow::mousePressed(QWidget* source, QMouseEvent* event)
 {
     const QPoint pos = mapFromGlobal(event->globalPosition().toPoint());
     const bool modifier = anyModifier(event->modifiers());
-    const WorksheetTarget target = targetAt(pos);
+    // The element the window system gave the press to is the one under the pointer.
+    const WorksheetTarget target = targetOf(source);
     QWidget* element = elementOf(target);
     bool drag = false;
     switch (target.kind) {

@@ -82,6 +82,8 @@ protected:
 
 private:
     WorksheetTarget targetAt(QPoint pos, const QWidget* skip = nullptr) const;
+    // The element a watched widget belongs to (a text box's viewport is its box).
+    WorksheetTarget targetOf(QWidget* watched) const;
     TwipsPoint twipsIn(WorksheetTarget target, QPoint pos) const;
     QWidget* elementOf(WorksheetTarget target);
     void watch(QWidget* element);
