@@ -80,10 +80,8 @@ QWidget* ButtonPanel::buildMediaPanel()
     grid->addWidget(new QLabel(QStringLiteral("Nom du fichier mutimédia :"), panel), 0, 0, 1, 3);
     mediaField_ = named(new QLineEdit(panel), "Text_media");
     grid->addWidget(mediaField_, 1, 0);
-    auto* browse = makeCommand(panel, QStringLiteral("..."), QStringLiteral("Command_media"));
-    browse->setFixedWidth(24);
-    grid->addWidget(browse, 1, 1);
-    grid->addWidget(makeCommand(panel, QStringLiteral("[?]"), QStringLiteral("Command_aide_media")), 1, 2);
+    grid->addWidget(makeSmallCommand(panel, QStringLiteral("..."), QStringLiteral("Command_media")), 1, 1);
+    grid->addWidget(makeSmallCommand(panel, QStringLiteral("[?]"), QStringLiteral("Command_aide_media")), 1, 2);
     return panel;
 }
 
@@ -92,14 +90,13 @@ QWidget* ButtonPanel::buildTransparencyFrame()
     auto* frame = named(new QGroupBox(QStringLiteral("Transparence            "), this), "Frame_transparence");
     auto* grid = new QGridLayout(frame);
     transparent_ = named(new QCheckBox(QStringLiteral("Activée"), frame), "Check_transparence");
-    grid->addWidget(transparent_, 0, 0);
-    auto* colour = new QHBoxLayout;
-    colour->addWidget(new QLabel(QStringLiteral("Couleur :"), frame));
+    grid->addWidget(transparent_, 0, 0, 1, 2);
+    grid->addWidget(new QLabel(QStringLiteral("Couleur :"), frame), 1, 0);
     transparentColour_ = makeSwatch(frame, QStringLiteral("Picture_transparence"));
-    colour->addWidget(transparentColour_);
-    grid->addLayout(colour, 0, 1);
-    grid->addWidget(makeCommand(frame, QStringLiteral("Aperçu rapide"), QStringLiteral("Command_apercu")), 1, 0);
-    grid->addWidget(makeCommand(frame, QStringLiteral("[Infos]"), QStringLiteral("Command_infos_transparence")), 1, 1);
+    grid->addWidget(transparentColour_, 1, 1);
+    grid->addWidget(makeCommand(frame, QStringLiteral("Aperçu rapide"), QStringLiteral("Command_apercu")), 2, 0);
+    grid->addWidget(makeSmallCommand(frame, QStringLiteral("[Infos]"), QStringLiteral("Command_infos_transparence")), 2,
+                    1);
     return frame;
 }
 

@@ -1,6 +1,7 @@
 #include "editor/designer/panel_controls.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
 #include "editor/platform/colours.h"
@@ -15,6 +16,54 @@ QPushButton* makeCommand(QWidget* parent, const QString& caption, const QString&
     return b;
 }
 
+QPushButton* makeSmallCommand(QWidget* parent, const QString& caption, const QString& name)
+{
+    auto* b = makeCommand(parent, caption, name);
+    b->setFixedWidth(b->fontMetrics().horizontalAdvance(caption) + 14);
+    return b;
+}
+
+QLabel* makeCaption(QWidget* parent, const QString& caption)
+{
+    auto* label = new QLabel(caption, parent);
+    label->setWordWrap(true);
+    return label;
+}
+
+namespace {
+
+// A caption that passes its clicks to a check box.
+class BoxCaption : public QLabel {
+public:
+    BoxCaption(const QString& caption, QCheckBox* box) : QLabel(caption, box->parentWidget()), box_(box)
+    {
+        setWordWrap(true);
+    }
+
+protected:
+    void mouseReleaseEvent(QMouseEvent*) override
+    {
+        if (box_->isEnabled())
+            box_->click();
+    }
+
+private:
+    QCheckBox* box_;
+};
+
+}  // namespace
+
+QCheckBox* addWrappedBox(QGridLayout& grid, int row, const QString& caption, const QString& name)
+{
+    auto* box = named(new QCheckBox(grid.parentWidget()), name);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(2);
+    line->addWidget(box, 0, Qt::AlignTop);
+    line->addWidget(new BoxCaption(caption, box), 1);
+    grid.addLayout(line, row, 0, 1, 3);
+    return box;
+}
+
 PathRow addPathRow(QGridLayout& grid, int row, const QString& caption, const QString& name, bool withClear)
 {
     QWidget* parent = grid.parentWidget();
@@ -23,12 +72,10 @@ PathRow addPathRow(QGridLayout& grid, int row, const QString& caption, const QSt
     r.field = named(new QLineEdit(parent), name);
     r.field->setReadOnly(true);
     grid.addWidget(r.field, row + 1, 0);
-    r.browse = makeCommand(parent, QStringLiteral("..."), name + QStringLiteral("_parcourir"));
-    r.browse->setFixedWidth(24);
+    r.browse = makeSmallCommand(parent, QStringLiteral("..."), name + QStringLiteral("_parcourir"));
     grid.addWidget(r.browse, row + 1, 1);
     if (withClear) {
-        r.clear = makeCommand(parent, QStringLiteral("X"), name + QStringLiteral("_effacer"));
-        r.clear->setFixedWidth(24);
+        r.clear = makeSmallCommand(parent, QStringLiteral("X"), name + QStringLiteral("_effacer"));
         grid.addWidget(r.clear, row + 1, 2);
     }
     return r;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QWidget>
@@ -26,7 +28,16 @@ PathRow addPathRow(QGridLayout& grid, int row, const QString& caption, const QSt
 QPushButton* makeSwatch(QWidget* parent, const QString& name);
 void showSwatchColour(QPushButton& swatch, Colour colour);
 
+// A check box whose caption wraps onto more lines: the panel is narrow and
+// some captions are long. Clicking the caption clicks the box.
+QCheckBox* addWrappedBox(QGridLayout& grid, int row, const QString& caption, const QString& name);
+
+// A caption that wraps in the narrow panel.
+QLabel* makeCaption(QWidget* parent, const QString& caption);
+
 // A command with a caption and a control name.
 QPushButton* makeCommand(QWidget* parent, const QString& caption, const QString& name);
+// The same, as narrow as its caption allows ("...", "X", "OK", "+").
+QPushButton* makeSmallCommand(QWidget* parent, const QString& caption, const QString& name);
 
 }  // namespace qor

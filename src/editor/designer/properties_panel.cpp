@@ -1,6 +1,7 @@
 #include "editor/designer/properties_panel.h"
 
 #include <QComboBox>
+#include <algorithm>
 #include <QEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -32,6 +33,10 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     viewport_ = named(new QWidget(this), "Cadre_contenu");
     content_ = new QWidget(viewport_);
     named(content_, "Picture1");
+    // The panel is narrow: its captions take the small size of tool windows.
+    QFont small = content_->font();
+    small.setPointSizeF(std::min(small.pointSizeF(), 8.0));
+    content_->setFont(small);
     auto* column = new QVBoxLayout(content_);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -119,7 +124,11 @@ void PropertiesPanel::layOut()
     const int barHeight = height() - barTop - twipsToPixels(kBarBottomMargin, screen_.twipsPerPixelY);
     scroll_->setGeometry(width() - barWidth, barTop, barWidth, std::max(0, barHeight));
     viewport_->setGeometry(0, contentTop, width() - barWidth, std::max(0, height() - contentTop));
-    content_->resize(viewport_->width(), content_->sizeHint().height());
+    // Captions wrap in the narrow panel: the height follows the width.
+    QLayout* column = content_->layout();
+    const int contentHeight =
+        column->hasHeightForWidth() ? column->totalHeightForWidth(viewport_->width()) : content_->sizeHint().height();
+    content_->resize(viewport_->width(), contentHeight);
     const double contentTwips = content_->height() * screen_.twipsPerPixelY;
     scroll_->setMaximum(int(contentTwips / kScrollStep));
     scrollTo(scroll_->value());

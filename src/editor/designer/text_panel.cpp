@@ -16,13 +16,13 @@ TextPanel::TextPanel(QWidget* parent) : QWidget(parent)
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(4, 4, 4, 4);
     grid->setVerticalSpacing(2);
-    grid->addWidget(new QLabel(QStringLiteral("Couleur de fond :"), this), 0, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Couleur de fond :")), 0, 0);
     back_ = makeSwatch(this, QStringLiteral("Picture_fond_texte"));
     grid->addWidget(back_, 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Couleur du texte :"), this), 1, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Couleur du texte :")), 1, 0);
     fore_ = makeSwatch(this, QStringLiteral("Picture_couleur_texte"));
     grid->addWidget(fore_, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Police, style, taille : "), this), 2, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Police, style, taille : ")), 2, 0);
     grid->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_police")), 2, 1);
     auto* size = new QHBoxLayout;
     size->addWidget(new QLabel(QStringLiteral("Taille :"), this));
@@ -31,17 +31,15 @@ TextPanel::TextPanel(QWidget* parent) : QWidget(parent)
     size->addWidget(width_);
     size->addWidget(new QLabel(QStringLiteral("x"), this));
     size->addWidget(height_);
-    size->addWidget(makeCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille_texte")));
+    size->addWidget(makeSmallCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille_texte")));
     grid->addLayout(size, 3, 0, 1, 2);
     grid->addWidget(makeCommand(this, QStringLiteral("Modifier la position"), QStringLiteral("Command_position_texte")),
                     4, 0, 1, 2);
     grid->addWidget(
         makeCommand(this, QStringLiteral("Modifier la position (px)"), QStringLiteral("Command_position_texte_px")), 5,
         0, 1, 2);
-    scrollBar_ = named(new QCheckBox(QStringLiteral("Barre de défilement"), this), "Check_barre");
-    lock_ = named(new QCheckBox(QStringLiteral("Vérouiller l'édition (à l'exécution)"), this), "Check_verrou");
-    grid->addWidget(scrollBar_, 6, 0, 1, 2);
-    grid->addWidget(lock_, 7, 0, 1, 2);
+    scrollBar_ = addWrappedBox(*grid, 6, QStringLiteral("Barre de défilement"), QStringLiteral("Check_barre"));
+    lock_ = addWrappedBox(*grid, 7, QStringLiteral("Vérouiller l'édition (à l'exécution)"), QStringLiteral("Check_verrou"));
     grid->addWidget(makeCommand(this, QStringLiteral("Supprimer le Texte"), QStringLiteral("Command_supprimer_texte")),
                     8, 0, 1, 2);
 }

@@ -13,11 +13,6 @@
 namespace qor {
 namespace {
 
-QCheckBox* makeBox(QWidget* parent, const QString& caption, const QString& name)
-{
-    return named(new QCheckBox(caption, parent), name);
-}
-
 // A row of controls side by side in one grid cell span.
 QHBoxLayout* rowAt(QGridLayout& grid, int row)
 {
@@ -43,13 +38,12 @@ void WindowPanel::build()
     int row = 0;
     background_ = addPathRow(*grid, row, QStringLiteral("Image de fond :"), QStringLiteral("Text_fond"), true);
     row += 2;
-    fullScreen_ = makeBox(this, QStringLiteral("Plein écran"), QStringLiteral("Check_plein"));
-    grid->addWidget(fullScreen_, row++, 0, 1, 3);
+    fullScreen_ = addWrappedBox(*grid, row++, QStringLiteral("Plein écran"), QStringLiteral("Check_plein"));
     auto* size = rowAt(*grid, row++);
     size->addWidget(new QLabel(QStringLiteral("Taille :"), this));
     width_ = named(new QLineEdit(this), "Text_largeur");
     height_ = named(new QLineEdit(this), "Text_hauteur");
-    sizeOk_ = makeCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille"));
+    sizeOk_ = makeSmallCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille"));
     size->addWidget(width_);
     size->addWidget(new QLabel(QStringLiteral("x"), this));
     size->addWidget(height_);
@@ -57,11 +51,10 @@ void WindowPanel::build()
     fit_ = makeCommand(this, QStringLiteral("Ajuster à l'image de fond"), QStringLiteral("Command_ajuster"));
     grid->addWidget(fit_, row++, 0, 1, 3);
     auto* zoom = rowAt(*grid, row++);
-    zoom->addWidget(new QLabel(QStringLiteral("Zoom (en gardant les proportions) :"), this));
-    zoom->addWidget(makeCommand(this, QStringLiteral("-"), QStringLiteral("Command_zoom_moins")));
-    zoom->addWidget(makeCommand(this, QStringLiteral("+"), QStringLiteral("Command_zoom_plus")));
-    border_ = makeBox(this, QStringLiteral("Contours"), QStringLiteral("Check_contours"));
-    grid->addWidget(border_, row++, 0, 1, 3);
+    zoom->addWidget(makeCaption(this, QStringLiteral("Zoom (en gardant les proportions) :")), 1);
+    zoom->addWidget(makeSmallCommand(this, QStringLiteral("-"), QStringLiteral("Command_zoom_moins")));
+    zoom->addWidget(makeSmallCommand(this, QStringLiteral("+"), QStringLiteral("Command_zoom_plus")));
+    border_ = addWrappedBox(*grid, row++, QStringLiteral("Contours"), QStringLiteral("Check_contours"));
     auto* colour = rowAt(*grid, row++);
     colour->addWidget(new QLabel(QStringLiteral("Couleur de fond :"), this));
     colour_ = makeSwatch(this, QStringLiteral("Picture_couleur"));
@@ -71,11 +64,9 @@ void WindowPanel::build()
     row += 2;
     icon_ = addPathRow(*grid, row, QStringLiteral("Icône du CD :"), QStringLiteral("Text_icone"), true);
     row += 2;
-    handCursor_ = makeBox(this, QStringLiteral("Curseur \"main\" au survol   des boutons (à l'exécution)"),
-                          QStringLiteral("Check_main"));
-    grid->addWidget(handCursor_, row++, 0, 1, 3);
-    timer_ = makeBox(this, QStringLiteral("Minuteur"), QStringLiteral("Check_minuteur"));
-    grid->addWidget(timer_, row++, 0, 1, 3);
+    handCursor_ = addWrappedBox(*grid, row++, QStringLiteral("Curseur \"main\" au survol   des boutons (à l'exécution)"),
+                                QStringLiteral("Check_main"));
+    timer_ = addWrappedBox(*grid, row++, QStringLiteral("Minuteur"), QStringLiteral("Check_minuteur"));
     timerGroup_ = named(new QGroupBox(this), "Frame_minuteur");
     auto* timerGrid = new QGridLayout(timerGroup_);
     auto* every = new QHBoxLayout;
@@ -84,20 +75,20 @@ void WindowPanel::build()
     every->addWidget(interval_);
     every->addWidget(new QLabel(QStringLiteral("ms"), timerGroup_));
     timerGrid->addLayout(every, 0, 0, 1, 2);
-    timerGrid->addWidget(new QLabel(QStringLiteral("exécuter ce code VBS :"), timerGroup_), 1, 0);
-    timerGrid->addWidget(makeCommand(timerGroup_, QStringLiteral("&Modif."), QStringLiteral("Command_minuteur")), 1, 1);
+    timerGrid->addWidget(makeCaption(timerGroup_, QStringLiteral("exécuter ce code VBS :")), 1, 0, 1, 2);
+    timerGrid->addWidget(makeSmallCommand(timerGroup_, QStringLiteral("&Modif."), QStringLiteral("Command_minuteur")), 2,
+                         1);
     grid->addWidget(timerGroup_, row++, 0, 1, 3);
-    contextMenu_ = makeBox(this, QStringLiteral("Menu contextuel à l'exécution"), QStringLiteral("Check_menu"));
-    grid->addWidget(contextMenu_, row++, 0, 1, 3);
+    contextMenu_ = addWrappedBox(*grid, row++, QStringLiteral("Menu contextuel à l'exécution"), QStringLiteral("Check_menu"));
     auto* global = rowAt(*grid, row++);
-    global->addWidget(new QLabel(QStringLiteral("Déclarations VBS globales :"), this));
-    global->addWidget(makeCommand(this, QStringLiteral("&Modif."), QStringLiteral("Command_global")));
-    global->addWidget(makeCommand(this, QStringLiteral("[?]"), QStringLiteral("Command_aide_global")));
+    global->addWidget(makeCaption(this, QStringLiteral("Déclarations VBS globales :")), 1);
+    global->addWidget(makeSmallCommand(this, QStringLiteral("&Modif."), QStringLiteral("Command_global")));
+    global->addWidget(makeSmallCommand(this, QStringLiteral("[?]"), QStringLiteral("Command_aide_global")));
     auto* hover = rowAt(*grid, row++);
     hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
     hover->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_fenetre")));
     hover->addStretch();
-    grid->addWidget(new QLabel(QStringLiteral("Action à effectuer au démarrage :"), this), row++, 0, 1, 3);
+    grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :")), row++, 0, 1, 3);
     startup_ = named(new QComboBox(this), "Combo_demarrage");
     startup_->addItems({QStringLiteral("Rien"), QStringLiteral("Lancer un fichier multimédia"),
                         QStringLiteral("Exécuter du code VBS")});
