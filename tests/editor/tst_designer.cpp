@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -89,9 +90,19 @@ void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
     QCOMPARE(sheet.button(1).size(), QSize(40, 20));
 
     // Typing into the text box: the forbidden character goes with one message.
+    // The box is drawn until a plain press makes its field, caret under the pointer.
     TextElement& text = sheet.text(1);
-    text.selectAll();
-    QTest::keyClicks(&text, QStringLiteral("Bonjour¤ici"));
+    QVERIFY(!text.editing());
+    const QPoint corner(text.width() - 20, text.height() - 5);
+    sendMouse(&text, QEvent::MouseButtonPress, corner, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(&text, QEvent::MouseButtonRelease, corner, Qt::LeftButton, Qt::NoButton);
+    QVERIFY(text.editing());
+    QPlainTextEdit& edit = text.edit();
+    QCOMPARE(edit.geometry(), text.rect());
+    QCOMPARE(edit.toPlainText(), QStringLiteral("Tapez ici le contenu du Texte 1"));
+    QCOMPARE(edit.textCursor().position(), int(edit.toPlainText().size()));
+    edit.selectAll();
+    QTest::keyClicks(&edit, QStringLiteral("Bonjour¤ici"));
     QCOMPARE(s.core().project().text(1).content, std::string("Bonjourici"));
     QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
     QCOMPARE(s.dialogs.lastMessage().text, std::string("Caratère interdit !"));
@@ -110,10 +121,11 @@ void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
     QCOMPARE(sheet.handle(3)->pos(), QPoint(295 + 40, 95 + 20));
 
     // Right-button resize of the text box, released over the background.
-    QWidget* port = text.viewport();
+    QWidget* port = edit.viewport();
     sendMouse(port, QEvent::MouseButtonPress, {10, 10}, Qt::RightButton, Qt::RightButton);
     sendMouse(port, QEvent::MouseMove, in(*port, sheet, {253, 163}), Qt::NoButton, Qt::RightButton);
     QCOMPARE(s.core().project().text(1).width, float(253 * 15 - 200));
+    QCOMPARE(edit.width(), text.width());
     QCOMPARE(panel.textPanel().widthField()->text(), QString::number(253 * 15 - 200));
     sendMouse(port, QEvent::MouseButtonRelease, in(*port, sheet, {253, 163}), Qt::RightButton, Qt::NoButton);
     QVERIFY(!text.resizing());
@@ -134,7 +146,7 @@ void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
     QCOMPARE(s.selectorEntries(), (QStringList{"Feuille de travail", "Bouton 1 (code)", "Bouton 2 (vidéo)",
                                                "Bouton 3 (quitter)", "Texte 1"}));
     QCOMPARE(sheet.button(1).pos(), QPoint(295, 95));
-    QCOMPARE(sheet.text(1).toPlainText(), QStringLiteral("Bonjourici"));
+    QCOMPARE(sheet.text(1).content(), std::string("Bonjourici"));
     QCOMPARE(sheet.text(1).width(), 253 - 13);
     s.trigger(CommandId::Save);
     QCOMPARE(Session::read(path), saved);
@@ -177,6 +189,11 @@ void TestDesigner::worksheetPixelsShowColoursAndPlaces()
     QCOMPARE(shot.pixelColor(130, 70), QColor(0, 0, 255));
     QCOMPARE(shot.pixelColor(220, 125), QColor(0, 255, 0));
     QCOMPARE(shot.pixelColor(199, 125), QColor(0, 0, 255));
+    // The field typed into shows the box as it was drawn, border included.
+    (void)s.windows().worksheet().text(t).edit();
+    const QImage typing = s.windows().worksheet().grab().toImage();
+    for (QPoint at : {QPoint(220, 125), QPoint(200, 100), QPoint(299, 149), QPoint(199, 125)})
+        QCOMPARE(typing.pixelColor(at), shot.pixelColor(at));
     QCOMPARE(s.windows().worksheet().windowTitle(), QStringLiteral("Feuille de travail - 9000x6000 - 600x400px"));
 }
 

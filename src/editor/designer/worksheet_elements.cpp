@@ -1,6 +1,10 @@
 #include "editor/designer/worksheet_elements.h"
 
+#include <QPainter>
+#include <qdrawutil.h>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
 
 #include "core/designer/designer_view.h"
 #include "editor/platform/colours.h"
@@ -33,46 +37,116 @@ void ButtonElement::showPicture(const QImage& image)
     resize(image.size());
 }
 
-TextElement::TextElement(int number, QWidget* parent) : QPlainTextEdit(parent), number_(number)
+TextElement::TextElement(int number, QWidget* parent) : QWidget(parent), number_(number)
 {
     named(this, "Texte", number);
     setToolTip(QStringLiteral("MAJ + clique pour déplacer - Clique droit pour redimensionner"));
     setMouseTracking(true);
-    viewport()->setMouseTracking(true);
-    // The right button resizes; no context menu of its own.
-    setContextMenuPolicy(Qt::NoContextMenu);
-    setFrameShape(QFrame::Box);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setCursor(Qt::IBeamCursor);
     hide();
 }
 
 void TextElement::showText(const MenuText& t, const ScreenMetrics& screen)
 {
-    if (fromQt(toPlainText().replace(QChar('\n'), QStringLiteral("\r\n"))) != t.content) {
-        const QSignalBlocker quiet(this);
-        setPlainText(toQtLines(t.content));
-    }
+    text_ = toQtLines(t.content);
+    scrollBar_ = t.showsScrollBar();
     QPalette p = palette();
     p.setColor(QPalette::Base, toQColor(t.backColor, p));
     p.setColor(QPalette::Text, toQColor(t.foreColor, p));
     setPalette(p);
-    setFont(toQFont(fontOf(t)));
-    setVerticalScrollBarPolicy(t.showsScrollBar() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const QFont f = toQFont(fontOf(t));
+    if (f != font())
+        setFont(f);
     setGeometry(twipsToPixels(t.left, screen.twipsPerPixelX), twipsToPixels(t.top, screen.twipsPerPixelY),
                 std::max(1, twipsToPixels(t.width, screen.twipsPerPixelX)),
                 std::max(1, twipsToPixels(t.height, screen.twipsPerPixelY)));
+    if (edit_)
+        applyToEdit();
     setVisible(t.visible);
+    update();
+}
+
+void TextElement::applyToEdit()
+{
+    if (edit_->toPlainText() != text_) {
+        const QSignalBlocker quiet(edit_);
+        edit_->setPlainText(text_);
+    }
+    edit_->setPalette(palette());
+    edit_->setFont(font());
+    edit_->setVerticalScrollBarPolicy(scrollBar_ ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    edit_->setReadOnly(resizing_);
+    edit_->setGeometry(rect());
+}
+
+QPlainTextEdit& TextElement::edit()
+{
+    if (!edit_) {
+        edit_ = new QPlainTextEdit(this);
+        edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        edit_->setFrameShape(QFrame::Box);
+        // The right button resizes; no context menu of its own.
+        edit_->setContextMenuPolicy(Qt::NoContextMenu);
+        edit_->setToolTip(toolTip());
+        edit_->viewport()->setMouseTracking(true);
+        applyToEdit();
+        connect(edit_, &QPlainTextEdit::textChanged, this, [this] {
+            text_ = edit_->toPlainText();
+            emit typed();
+        });
+        edit_->show();
+        emit editMade(*edit_);
+    }
+    return *edit_;
 }
 
 std::string TextElement::content() const
 {
-    return fromQt(toPlainText().replace(QChar('\n'), QStringLiteral("\r\n")));
+    QString lines = text_;
+    return fromQt(lines.replace(QChar('\n'), QStringLiteral("\r\n")));
 }
 
 void TextElement::setResizing(bool resizing)
 {
     resizing_ = resizing;
-    setReadOnly(resizing);
+    if (edit_)
+        edit_->setReadOnly(resizing);
+}
+
+// The field, once made, covers the whole box whatever changes its size.
+void TextElement::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (edit_)
+        edit_->setGeometry(rect());
+}
+
+// What the field would show, drawn: the box, its text wrapped at the width
+// and, when it has one, the vertical scroll bar at its right.
+void TextElement::paintEvent(QPaintEvent*)
+{
+    if (edit_)
+        return;
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    // The field's sunken box: one dark and one light line, two pixels in all.
+    qDrawShadeRect(&painter, rect(), palette(), true, 1, 0);
+    QRect inner = rect().adjusted(2, 2, -2, -2);
+    if (scrollBar_) {
+        QStyleOptionSlider bar;
+        bar.initFrom(this);
+        bar.orientation = Qt::Vertical;
+        bar.rect = QRect(inner.right() - style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 1, inner.top(),
+                         style()->pixelMetric(QStyle::PM_ScrollBarExtent), inner.height());
+        bar.minimum = bar.maximum = bar.sliderPosition = bar.sliderValue = 0;
+        style()->drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter, this);
+        inner.setRight(bar.rect.left() - 1);
+    }
+    painter.setPen(palette().color(QPalette::Text));
+    painter.setClipRect(inner);
+    // The field's own margin around its text.
+    painter.drawText(inner.adjusted(4, 4, -4, -4), Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, text_);
 }
 
 }  // namespace qor

@@ -24,9 +24,11 @@ private:
     int number_;
 };
 
-// A text box on the worksheet: a multi-line field with its colours, font,
-// scroll bar and size. While it is being resized it takes no typing.
-class TextElement : public QPlainTextEdit {
+// A text box on the worksheet: its colours, font, content, scroll bar and
+// size. It paints itself; the multi-line field the user types into is made
+// the first time the box is edited, so that a project of hundreds of boxes
+// loads and repaints as fast as pictures.
+class TextElement : public QWidget {
     Q_OBJECT
 public:
     TextElement(int number, QWidget* parent);
@@ -35,12 +37,30 @@ public:
     void showText(const MenuText& text, const ScreenMetrics& screen);
     // The content as the model keeps it: lines broken by CR LF.
     std::string content() const;
+    // The field the user types into, made on first use.
+    QPlainTextEdit& edit();
+    bool editing() const { return edit_ != nullptr; }
     void setResizing(bool resizing);
     bool resizing() const { return resizing_; }
 
+signals:
+    // The user changed the content.
+    void typed();
+    // The field was made: its widgets want watching too.
+    void editMade(QPlainTextEdit& edit);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void applyToEdit();
+
     int number_;
     bool resizing_ = false;
+    QString text_;
+    bool scrollBar_ = true;
+    QPlainTextEdit* edit_ = nullptr;
 };
 
 }  // namespace qor

@@ -106,21 +106,23 @@ TextElement& WorksheetWindow::text(int number)
     if (it != texts_.end())
         return *it->second;
     auto* t = new TextElement(number, this);
-    watch(t->viewport());
+    watch(t);
     if (overlay_)
         t->stackUnder(overlay_);
-    connect(t, &QPlainTextEdit::textChanged, this, [this, t] {
+    connect(t, &TextElement::editMade, this, [this](QPlainTextEdit& edit) { watch(edit.viewport()); });
+    connect(t, &TextElement::typed, this, [this, t] {
         if (!flows_)
             return;
-        const QString before = t->toPlainText();
+        QPlainTextEdit& edit = t->edit();
+        const QString before = edit.toPlainText();
         if (auto cleaned = flows_->textTyped(t->number(), t->content())) {
             // The caret stays where the user was typing, less what went.
-            const int caret = t->textCursor().position();
+            const int caret = edit.textCursor().position();
             const QString after = toQtLines(*cleaned);
-            t->setPlainText(after);
-            QTextCursor cursor = t->textCursor();
+            edit.setPlainText(after);
+            QTextCursor cursor = edit.textCursor();
             cursor.setPosition(std::clamp(caret - int(before.size() - after.size()), 0, int(after.size())));
-            t->setTextCursor(cursor);
+            edit.setTextCursor(cursor);
         }
     });
     texts_[number] = t;
@@ -250,10 +252,12 @@ WorksheetTarget WorksheetWindow::targetAt(QPoint pos, const QWidget* skip) const
 
 WorksheetTarget WorksheetWindow::targetOf(QWidget* w) const
 {
-    if (auto* b = qobject_cast<ButtonElement*>(w))
-        return WorksheetTarget::button(b->number());
-    if (auto* t = w ? qobject_cast<TextElement*>(w->parentWidget()) : nullptr)
-        return WorksheetTarget::text(t->number());
+    for (; w && w != this; w = w->parentWidget()) {
+        if (auto* b = qobject_cast<ButtonElement*>(w))
+            return WorksheetTarget::button(b->number());
+        if (auto* t = qobject_cast<TextElement*>(w))
+            return WorksheetTarget::text(t->number());
+    }
     return WorksheetTarget::background();
 }
 
@@ -316,8 +320,16 @@ bool WorksheetWindow::mousePressed(QWidget* source, QMouseEvent* event)
         grabPixels_ = element->mapFrom(this, pos);
         return true;
     }
-    // A text box keeps the caret for plain presses; the rest is ours.
-    return target.kind != WorksheetTarget::Kind::Text || modifier || event->button() == Qt::RightButton;
+    if (target.kind != WorksheetTarget::Kind::Text || modifier || event->button() == Qt::RightButton)
+        return true;
+    // A plain press types into the box: its field is made the first time.
+    auto* box = static_cast<TextElement*>(element);
+    if (!box || box->editing())
+        return false;
+    QPlainTextEdit& edit = box->edit();
+    edit.setFocus(Qt::MouseFocusReason);
+    edit.setTextCursor(edit.cursorForPosition(edit.viewport()->mapFrom(this, pos)));
+    return true;
 }
 
 void WorksheetWindow::mouseMoved(QMouseEvent* event)
