@@ -77,7 +77,7 @@ void BM_TypedCharacter(benchmark::State& state)
 {
     MenuProject project;
     Selection selection;
-    SilentDialogs dialogs;
+    bench::SilentDialogs dialogs;
     TimerControls controls;
     ScriptEditorFlow flow(project, selection, dialogs);
     flow.setControls(&controls);

@@ -47,27 +47,18 @@
 #include "editor/platform/qt_settings_store.h"
 #include "text/line_file.h"
 
+#include "qt_benchmarks.h"
+#include "silent_dialogs.h"
+
 namespace {
 
 using namespace qor;
+using qor::bench::SilentDialogs;
 
 void settle()
 {
     QCoreApplication::processEvents();
 }
-
-// A start that asks the user anything has gone wrong: it is counted, and
-// the measure is thrown away.
-struct SilentDialogs : Dialogs {
-    int asked = 0;
-    Answer message(const Message&) override { ++asked; return Answer::Ok; }
-    std::string inputBox(const std::string&, const std::string&, const std::string&) override { ++asked; return {}; }
-    std::optional<std::string> openFile(const FileDialogRequest&) override { ++asked; return {}; }
-    std::optional<std::string> saveFile(const FileDialogRequest&) override { ++asked; return {}; }
-    std::optional<std::string> pickFolder(const std::string&) override { ++asked; return {}; }
-    std::optional<Colour> pickColour(Colour) override { ++asked; return {}; }
-    std::optional<FontChoice> pickFont(const FontChoice&) override { ++asked; return {}; }
-};
 
 // A program folder, settings folder and data folder of the benchmark's own.
 struct Folders {
@@ -237,11 +228,5 @@ int main(int argc, char** argv)
     if (argc == 2 && std::strncmp(argv[1], coldFlag, std::strlen(coldFlag)) == 0)
         return runColdStart(argv[1] + std::strlen(coldFlag), argc, argv);
 
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return qor::bench::runQtBenchmarks(argc, argv);
 }

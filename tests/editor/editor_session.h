@@ -53,6 +53,9 @@ public:
     std::deque<std::optional<std::string>> openAnswers;
     std::deque<std::optional<std::string>> saveAnswers;
     std::deque<std::optional<std::string>> folderAnswers;
+    std::deque<std::optional<Colour>> colourAnswers;
+    std::deque<std::optional<FontChoice>> fontAnswers;
+    std::vector<std::string> inputDefaults;
 
     Answer message(const Message& m) override
     {
@@ -61,9 +64,10 @@ public:
             return Answer::Ok;
         return take(messageAnswers, "message " + m.text, Answer::Cancel);
     }
-    std::string inputBox(const std::string& prompt, const std::string&, const std::string&) override
+    std::string inputBox(const std::string& prompt, const std::string&, const std::string& defaultText) override
     {
         inputPrompts.push_back(prompt);
+        inputDefaults.push_back(defaultText);
         return take(inputAnswers, "input box " + prompt, std::string());
     }
     std::optional<std::string> openFile(const FileDialogRequest& r) override
@@ -83,13 +87,11 @@ public:
     }
     std::optional<Colour> pickColour(Colour) override
     {
-        unexpected << QStringLiteral("colour dialog");
-        return std::nullopt;
+        return take(colourAnswers, "colour dialog", std::optional<Colour>());
     }
     std::optional<FontChoice> pickFont(const FontChoice&) override
     {
-        unexpected << QStringLiteral("font dialog");
-        return std::nullopt;
+        return take(fontAnswers, "font dialog", std::optional<FontChoice>());
     }
 
     const Message& lastMessage() const

@@ -214,7 +214,7 @@ void TestSession::newBlankProjectResetsTheViews()
     QCOMPARE(s.selectorEntries(), QStringList{"Feuille de travail"});
     QVERIFY(s.windows().worksheet().background()->pixmap().isNull());
     QCOMPARE(s.windows().worksheet().backgroundColour(), QColor(255, 255, 255));
-    QCOMPARE(s.editor->projectViews().currentButton(), 0);
+    QCOMPARE(s.core().selection().currentButton, 0);
     QCOMPARE(s.editor->projectViews().startupChoice(), StartupChoice::Nothing);
     // The full-screen flag goes; the window keeps its size, the one start-up gave it.
     QVERIFY(!s.core().project().fullScreen);

@@ -165,8 +165,6 @@ void TestWindows::toolboxGroups()
     for (; n < ToolboxWindow::kCommandCount; ++n) {
         QCOMPARE(t.command(n)->text(), QString::fromUtf8(commands[n]));
         QCOMPARE(t.command(n)->objectName(), QStringLiteral("Command%1").arg(n + 1));
-        // Nothing to create with until the designer is there.
-        QVERIFY(!t.command(n)->isEnabled());
     }
     // Every command fits in the column.
     t.show();

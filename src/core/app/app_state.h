@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/ports/screen.h"
 #include "core/ui/appearances_file.h"
 #include "core/ui/phrases.h"
 
@@ -17,13 +18,6 @@ struct OptionMarks {
     bool requireMediaFile = true;   // "Obliger à configurer un fichier pour chaque bouton multimédia"
 
     friend bool operator==(const OptionMarks&, const OptionMarks&) = default;
-};
-
-struct TwipsSize {
-    double width = 0;
-    double height = 0;
-
-    friend bool operator==(const TwipsSize&, const TwipsSize&) = default;
 };
 
 // The application name of every per-user setting.

@@ -6,10 +6,13 @@ Application::Application(Platform p)
     : settings_(state_, p.settings, p.dialogs),
       recentFiles_(settings_, p.shellView),
       scriptEditor_(project_, selection_, p.dialogs),
+      designer_(project_, selection_,
+                DesignerPorts{p.dialogs, p.screen, state_.phrases, p.projectViews, scriptEditor_,
+                              state_.options.showHandles}),
       // The QMB import is built after the routes to it; nothing reaches it
       // before the application is complete.
       routes_(recentFiles_, qmb_),
-      services_{p.dialogs, state_.phrases, p.projectViews, routes_},
+      services_{p.dialogs, state_.phrases, designer_, routes_},
       lifecycle_(project_, services_, p.desktop, p.documentView),
       qmb_(p.qmbConverter, p.dialogs,
            [this](const std::string& path) { lifecycle_.openPath(path); }),

@@ -9,6 +9,7 @@
 #include "core/app/user_settings.h"
 #include "core/build/build_flows.h"
 #include "core/build/local_file_system.h"
+#include "core/designer/designer.h"
 #include "core/designer/selection.h"
 #include "core/ports/qmb_converter.h"
 #include "core/project/document_lifecycle.h"
@@ -60,6 +61,7 @@ public:
     ScriptEditorFlow& scriptEditor() { return scriptEditor_; }
     // Nothing when the platform gave no build view.
     BuildFlows* build() { return build_ ? &*build_ : nullptr; }
+    Designer& designer() { return designer_; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -80,6 +82,8 @@ private:
     MenuProject project_;
     Selection selection_;
     ScriptEditorFlow scriptEditor_;
+    // Stands between the project reader and the platform's views.
+    Designer designer_;
     Routes routes_;
     ProjectServices services_;
     DocumentLifecycle lifecycle_;

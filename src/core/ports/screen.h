@@ -2,6 +2,22 @@
 
 namespace qor {
 
+// A width and a height in twips.
+struct TwipsSize {
+    double width = 0;
+    double height = 0;
+
+    friend bool operator==(const TwipsSize&, const TwipsSize&) = default;
+};
+
+// A point in twips.
+struct TwipsPoint {
+    double x = 0;
+    double y = 0;
+
+    friend bool operator==(const TwipsPoint&, const TwipsPoint&) = default;
+};
+
 // The screen in twips (1/1440 inch) and its twips-per-pixel factors.
 struct ScreenMetrics {
     double widthTwips = 0;

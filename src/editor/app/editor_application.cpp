@@ -2,12 +2,13 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QShortcut>
+#include <QPushButton>
 
 #include "core/app/command_line.h"
 #include "core/project/file_info.h"
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
+#include "editor/designer/toolbox_window.h"
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/qt_text.h"
 #include "editor/ui/splash_window.h"
@@ -24,10 +25,13 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
                      ports.qmbConverter, shellView_, projectViews_, documentView_, &buildView_}),
       scriptEditorView_(windows_, core_.scriptEditor()),
       wizard_({core_.state().wizardOpen, ports.dialogs, ports.desktop, core_.document(), ports.screen.metrics(),
-               core_.state().programFolder, hooks})
+               core_.state().programFolder, hooks}),
+      designerView_(windows_, core_.project())
 {
     core_.scriptEditor().setView(&scriptEditorView_);
     buildView_.setBuild(core_.build());
+    core_.designer().setView(&designerView_);
+    documentView_.afterProjectReplaced = [this] { core_.designer().projectReplaced(); };
     // The wizard opens over the main window, and takes over from the splash.
     shellView_.creationWizardRequested = [this] {
         wizard_.open(windows_.isLoaded(WindowId::Main) ? &windows_.main() : nullptr);
@@ -63,26 +67,51 @@ void EditorApplication::connectWindow(WindowId window)
                          [&shell] { shell.mainWindow().resetTitles(); });
         break;
     }
-    case WindowId::Worksheet:
-        // F5 tests the project.
-        QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), &windows_.worksheet()), &QShortcut::activated,
-                         &windows_.worksheet(), [&shell] { shell.run(CommandId::TestProject); });
-        // Files dropped from the desktop: the last one opens, after the question.
-        QObject::connect(&windows_.worksheet(), &WorksheetWindow::filesDropped, &windows_.worksheet(),
-                         [this](const QStringList& files) {
-                             std::vector<std::string> paths;
-                             for (const QString& f : files)
-                                 paths.push_back(fromQt(f));
-                             core_.document().openDropped(paths);
-                         });
-        break;
+    case WindowId::Toolbox: connectToolbox(); break;
+    case WindowId::Worksheet: connectWorksheet(); break;
     case WindowId::PropertiesPanel:
         QObject::connect(&windows_.properties(), &PropertiesPanel::firstActivated, &windows_.properties(),
                          [&shell] { shell.propertiesPanelActivated(); });
+        windows_.properties().connectDesigner(core_.designer());
         break;
     default:
         break;
     }
+}
+
+void EditorApplication::connectToolbox()
+{
+    ToolboxWindow& toolbox = windows_.toolbox();
+    for (int i = 0; i < ToolboxWindow::kCommandCount; ++i) {
+        QPushButton* command = toolbox.command(i);
+        command->setEnabled(true);
+        // The commands stand in the order of the toolbox's dispatch.
+        QObject::connect(command, &QPushButton::clicked, command,
+                         [this, i] { core_.designer().runToolbox(ToolboxCommand(i)); });
+    }
+}
+
+void EditorApplication::connectWorksheet()
+{
+    WorksheetWindow& sheet = windows_.worksheet();
+    sheet.setFlows(&core_.designer().worksheet());
+    // Files dropped from the desktop: the last one opens, after the question.
+    QObject::connect(&sheet, &WorksheetWindow::filesDropped, &sheet, [this](const QStringList& files) {
+        std::vector<std::string> paths;
+        for (const QString& f : files)
+            paths.push_back(fromQt(f));
+        core_.document().openDropped(paths);
+    });
+    QObject::connect(&sheet, &WorksheetWindow::resized, &sheet,
+                     [this, &sheet](bool byUser) { core_.designer().worksheet().resized(windows_.outerSize(sheet), byUser); });
+    QObject::connect(&sheet, &WorksheetWindow::keyCommand, &sheet, [this](int key) {
+        switch (key) {
+        case Qt::Key_Delete: core_.designer().deleteButton(); break;
+        case Qt::Key_F5: core_.shell().run(CommandId::TestProject); break;
+        case Qt::Key_F1: core_.shell().run(CommandId::Manual); break;
+        default: break;
+        }
+    });
 }
 
 StartupInputs startupInputs(int argc, const char* const* argv, const QDateTime& now)

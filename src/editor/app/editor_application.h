@@ -6,6 +6,7 @@
 
 #include "core/app/application.h"
 #include "editor/app/editor_build_view.h"
+#include "editor/app/editor_designer_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
 #include "editor/app/editor_shell_view.h"
@@ -50,6 +51,8 @@ public:
 
 private:
     void connectWindow(WindowId window);
+    void connectWorksheet();
+    void connectToolbox();
 
     EditorWindows windows_;
     EditorShellView shellView_;
@@ -59,6 +62,7 @@ private:
     Application core_;
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;
+    EditorDesignerView designerView_;
 };
 
 // What start-up needs from the platform: the executable's path, the

@@ -40,6 +40,8 @@ void EditorDocumentView::projectReplaced(const MenuProject& project)
     if (!project.fullScreen)
         windows_.setOuterSize(sheet, project.width, project.height);
     sheet.setBackgroundColour(toQColor(project.backgroundColor, sheet.palette()));
+    if (afterProjectReplaced)
+        afterProjectReplaced();
 }
 
 }  // namespace qor

@@ -16,6 +16,8 @@ public:
 
     // Where "&Valider" sends the author fields as the user left them.
     std::function<void(const AuthorFields&)> authorFieldsAccepted;
+    // Called once the worksheet has taken the new project's size and colour.
+    std::function<void()> afterProjectReplaced;
 
     // Opens the window without waiting for it: it is modal over the editor,
     // and its "&Valider" hands the fields over when it is pressed.

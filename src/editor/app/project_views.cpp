@@ -1,12 +1,12 @@
 #include "editor/app/project_views.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
 
-#include "core/designer/element_selector.h"
 #include "editor/app/editor_windows.h"
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/worksheet_window.h"
@@ -28,13 +28,29 @@ Result<QImage> readPicture(const std::string& path)
     return image;
 }
 
+Result<QImage> ProjectViews::picture(const std::string& path)
+{
+    const QFileInfo info(toQt(path));
+    if (!info.isFile())
+        return makeError(err::FileNotFound);
+    const qint64 modified = info.lastModified().toMSecsSinceEpoch();
+    auto it = pictures_.find(path);
+    if (it != pictures_.end() && it->second.modified == modified && it->second.size == info.size())
+        return it->second.image;
+    auto read = readPicture(path);
+    if (read)
+        pictures_[path] = Cached{modified, info.size(), *read};
+    return read;
+}
+
 void ProjectViews::resetViews()
 {
-    buttonPictures_.clear();
-    currentButton_ = 0;
+    pictures_.clear();
     startupChoice_ = StartupChoice::Nothing;
-    if (windows_.isLoaded(WindowId::Worksheet))
+    if (windows_.isLoaded(WindowId::Worksheet)) {
+        windows_.worksheet().removeElements();
         windows_.worksheet().background()->clear();
+    }
     if (windows_.isLoaded(WindowId::PropertiesPanel))
         windows_.properties().resetElementSelector();
 }
@@ -46,45 +62,47 @@ void ProjectViews::setCurrentFolder(const std::string& folder)
 
 Status ProjectViews::loadBackgroundImage(const std::string& path)
 {
-    QLabel* background = windows_.worksheet().background();
+    if (!windows_.isLoaded(WindowId::Worksheet))
+        return {};
+    WorksheetWindow& sheet = windows_.worksheet();
     if (path.empty()) {
-        background->clear();
+        sheet.background()->clear();
+        sheet.setBackgroundStretched(true);
         return {};
     }
-    auto picture = readPicture(path);
-    if (!picture)
-        return picture.error();
-    background->setPixmap(QPixmap::fromImage(*picture));
+    auto read = picture(path);
+    if (!read) {
+        // A picture that cannot be shown leaves the background empty.
+        sheet.background()->clear();
+        return read.error();
+    }
+    sheet.background()->setPixmap(QPixmap::fromImage(*read));
+    sheet.setBackgroundStretched(true);
     return {};
 }
 
 Status ProjectViews::loadButtonImage(int number, const std::string& path)
 {
+    if (!windows_.isLoaded(WindowId::Worksheet))
+        return {};
+    ButtonElement& button = windows_.worksheet().button(number);
     if (path.empty()) {
-        buttonPictures_.erase(number);
+        button.showPicture(QImage());
         return {};
     }
-    auto picture = readPicture(path);
-    if (!picture)
-        return picture.error();
-    buttonPictures_[number] = *picture;
+    auto read = picture(path);
+    if (!read)
+        return read.error();
+    button.showPicture(*read);
     return {};
-}
-
-void ProjectViews::buttonCreated(int number, const std::string& kind)
-{
-    windows_.properties().addElementEntry(buttonEntry(number, kind));
-}
-
-void ProjectViews::textCreated(int number)
-{
-    windows_.properties().addElementEntry(textEntry(number));
 }
 
 QImage ProjectViews::buttonPicture(int number) const
 {
-    const auto it = buttonPictures_.find(number);
-    return it == buttonPictures_.end() ? QImage() : it->second;
+    if (!windows_.isLoaded(WindowId::Worksheet) || !windows_.worksheet().hasButton(number))
+        return {};
+    const QPixmap p = windows_.worksheet().button(number).pixmap();
+    return p.isNull() ? QImage() : p.toImage();
 }
 
 }  // namespace qor

@@ -16,10 +16,9 @@ class EditorWindows;
 // such file, 481 when it is not a picture this editor can read.
 Result<QImage> readPicture(const std::string& path);
 
-// The editor's side of the project hooks: what a reset or a load changes on
-// the worksheet and in the properties panel. Until the designer places
-// element widgets, an element is its selector entry and, for a button, the
-// picture it will show.
+// The editor's side of the project hooks: the pictures a reset or a load
+// puts on the worksheet (background, buttons) and the current folder. The
+// element selector and the elements themselves follow the designer.
 class ProjectViews final : public ProjectHooks {
 public:
     explicit ProjectViews(EditorWindows& windows) : windows_(windows) {}
@@ -28,25 +27,29 @@ public:
     void setCurrentFolder(const std::string& folder) override;
     Status loadBackgroundImage(const std::string& path) override;
     Status loadButtonImage(int number, const std::string& path) override;
-    void buttonCreated(int number, const std::string& kind) override;
-    void textCreated(int number) override;
+    void buttonCreated(int, const std::string&) override {}
+    void textCreated(int) override {}
     void setLoading(bool loading) override { loading_ = loading; }
     void showStartupChoice(StartupChoice choice) override { startupChoice_ = choice; }
 
-    // The selection: which button and which text box the panel works on
-    // (-1: none). A reset makes the button template, number 0, current.
-    int currentButton() const { return currentButton_; }
-    int currentText() const { return currentText_; }
     bool loading() const { return loading_; }
     StartupChoice startupChoice() const { return startupChoice_; }
-    // The normal picture of button number, null when it shows none.
+    // The picture button number shows, null when it shows none.
     QImage buttonPicture(int number) const;
 
 private:
+    // A picture read once is kept while its file stays as it was: hover and
+    // pressed previews switch pictures on every pointer move.
+    Result<QImage> picture(const std::string& path);
+
+    struct Cached {
+        qint64 modified = 0;
+        qint64 size = 0;
+        QImage image;
+    };
+
     EditorWindows& windows_;
-    std::map<int, QImage> buttonPictures_;
-    int currentButton_ = -1;
-    int currentText_ = -1;
+    std::map<std::string, Cached> pictures_;
     bool loading_ = false;
     StartupChoice startupChoice_ = StartupChoice::Nothing;
 };

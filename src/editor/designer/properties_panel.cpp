@@ -1,29 +1,68 @@
 #include "editor/designer/properties_panel.h"
 
 #include <QComboBox>
+#include <algorithm>
 #include <QEvent>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
+#include "core/designer/designer.h"
 #include "core/designer/element_selector.h"
+#include "editor/designer/button_panel.h"
+#include "editor/designer/text_panel.h"
+#include "editor/designer/window_panel.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
 
 namespace qor {
+namespace {
 
-PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks)
+// The content area stands this far above the scroll bar's top.
+constexpr double kContentAboveBar = 100;
+constexpr double kBarBottomMargin = 50;
+
+}  // namespace
+
+PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks) : screen_(screen)
 {
     named(this, WindowId::PropertiesPanel);
     setWindowTitle(QStringLiteral("Paramètres"));
     selector_ = new QComboBox(this);
     named(selector_, "Combo1");
-    content_ = new QWidget(this);
+    viewport_ = named(new QWidget(this), "Cadre_contenu");
+    content_ = new QWidget(viewport_);
     named(content_, "Picture1");
+    // The panel is narrow: its captions take the small size of tool windows.
+    QFont small = content_->font();
+    small.setPointSizeF(std::min(small.pointSizeF(), 8.0));
+    content_->setFont(small);
+    auto* column = new QVBoxLayout(content_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    window_ = new WindowPanel(content_);
+    button_ = new ButtonPanel(content_);
+    text_ = new TextPanel(content_);
+    for (QWidget* p : {static_cast<QWidget*>(window_), static_cast<QWidget*>(button_), static_cast<QWidget*>(text_)})
+        column->addWidget(p);
+    column->addStretch();
     scroll_ = new QScrollBar(Qt::Vertical, this);
     named(scroll_, "VScroll1");
     scroll_->setMaximum(0);
+    connect(scroll_, &QScrollBar::valueChanged, this, [this](int v) { scrollTo(v); });
     setFixedWidth(twipsToPixels(kWidth, screen.twipsPerPixelX));
+    PanelSet first;
+    first.add(PanelId::Window);
+    showPanels(first);
     runLoadHooks(*this, hooks);
+}
+
+void PropertiesPanel::connectDesigner(Designer& designer)
+{
+    connect(selector_, &QComboBox::activated, this, [&designer](int index) { designer.select(index); });
+    window_->connectFlows(designer.windowPanel());
+    button_->connectFlows(designer.elementPanel());
+    text_->connectFlows(designer.elementPanel(), designer);
 }
 
 void PropertiesPanel::resetElementSelector()
@@ -36,6 +75,25 @@ void PropertiesPanel::resetElementSelector()
 void PropertiesPanel::addElementEntry(const std::string& entry)
 {
     selector_->addItem(toQt(entry));
+}
+
+void PropertiesPanel::removeElementEntry(int index)
+{
+    selector_->removeItem(index);
+}
+
+void PropertiesPanel::showSelectedEntry(int index)
+{
+    selector_->setCurrentIndex(index);
+}
+
+void PropertiesPanel::showPanels(const PanelSet& panels)
+{
+    window_->setVisible(panels.has(PanelId::Window));
+    button_->setVisible(panels.has(PanelId::Button));
+    button_->showSubPanels(panels.has(PanelId::Media), panels.has(PanelId::Code));
+    text_->setVisible(panels.has(PanelId::Text));
+    layOut();
 }
 
 bool PropertiesPanel::event(QEvent* event)
@@ -51,12 +109,34 @@ bool PropertiesPanel::event(QEvent* event)
 void PropertiesPanel::resizeEvent(QResizeEvent* event)
 {
     ToolWindow::resizeEvent(event);
+    layOut();
+}
+
+// The bar runs from under the selector to 50 twips above the bottom; its
+// maximum is the content's height in steps of 500 twips.
+void PropertiesPanel::layOut()
+{
     const int margin = 4;
     selector_->setGeometry(margin, margin, width() - 2 * margin, selector_->sizeHint().height());
-    const int top = selector_->geometry().bottom() + margin;
+    const int contentTop = selector_->geometry().bottom() + margin;
+    const int barTop = contentTop + twipsToPixels(kContentAboveBar, screen_.twipsPerPixelY);
     const int barWidth = scroll_->sizeHint().width();
-    scroll_->setGeometry(width() - barWidth, top, barWidth, std::max(0, height() - top - margin));
-    content_->setGeometry(0, top, width() - barWidth, std::max(0, height() - top));
+    const int barHeight = height() - barTop - twipsToPixels(kBarBottomMargin, screen_.twipsPerPixelY);
+    scroll_->setGeometry(width() - barWidth, barTop, barWidth, std::max(0, barHeight));
+    viewport_->setGeometry(0, contentTop, width() - barWidth, std::max(0, height() - contentTop));
+    // Captions wrap in the narrow panel: the height follows the width.
+    QLayout* column = content_->layout();
+    const int contentHeight =
+        column->hasHeightForWidth() ? column->totalHeightForWidth(viewport_->width()) : content_->sizeHint().height();
+    content_->resize(viewport_->width(), contentHeight);
+    const double contentTwips = content_->height() * screen_.twipsPerPixelY;
+    scroll_->setMaximum(int(contentTwips / kScrollStep));
+    scrollTo(scroll_->value());
+}
+
+void PropertiesPanel::scrollTo(int value)
+{
+    content_->move(0, -twipsToPixels(kScrollStep * value, screen_.twipsPerPixelY));
 }
 
 }  // namespace qor

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/designer/designer_view.h"
 #include "core/ports/screen.h"
 #include "editor/ui/tool_window.h"
 #include "editor/ui/window_hooks.h"
@@ -11,24 +12,41 @@ class QScrollBar;
 
 namespace qor {
 
+class ButtonPanel;
+class Designer;
+class TextPanel;
+class WindowPanel;
+
 // The properties panel "Paramètres" ("Form4"): the element selector at the
-// top and, below it, the content area that shows one panel at a time with a
-// scroll bar at its right. Its width is fixed; the panels arrive with the
-// designer.
+// top and, below it, the content area that shows one panel at a time (the
+// window, a button with its sub-panel, a text box) with a scroll bar at its
+// right that moves it in steps of 500 twips. Its width is fixed.
 class PropertiesPanel : public ToolWindow {
     Q_OBJECT
 public:
     static constexpr double kWidth = 2985;
+    static constexpr double kScrollStep = 500;
 
     explicit PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks = WindowHooks::none());
+
+    // Selections and every control go to the designer from now on.
+    void connectDesigner(Designer& designer);
 
     QComboBox* elementSelector() const { return selector_; }
     // The selector back to its single entry "Feuille de travail", selected.
     void resetElementSelector();
     // An element's entry at the end of the selector.
     void addElementEntry(const std::string& entry);
+    void removeElementEntry(int index);
+    // Shows the entry selected without running anything.
+    void showSelectedEntry(int index);
     QScrollBar* scrollBar() const { return scroll_; }
     QWidget* contentArea() const { return content_; }
+
+    void showPanels(const PanelSet& panels);
+    WindowPanel& windowPanel() const { return *window_; }
+    ButtonPanel& buttonPanel() const { return *button_; }
+    TextPanel& textPanel() const { return *text_; }
 
 signals:
     // The first time the panel becomes the active window, and never again:
@@ -40,9 +58,17 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void layOut();
+    void scrollTo(int value);
+
+    ScreenMetrics screen_;
     QComboBox* selector_ = nullptr;
     QScrollBar* scroll_ = nullptr;
+    QWidget* viewport_ = nullptr;
     QWidget* content_ = nullptr;
+    WindowPanel* window_ = nullptr;
+    ButtonPanel* button_ = nullptr;
+    TextPanel* text_ = nullptr;
     int activations_ = 0;
 };
 

@@ -33,7 +33,6 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
         for (const char* caption : g.commands) {
             auto* button = new QPushButton(QString::fromUtf8(caption), box);
             named(button, QStringLiteral("Command%1").arg(n + 1));
-            button->setEnabled(false);
             inner->addWidget(button);
             commands_[n++] = button;
         }

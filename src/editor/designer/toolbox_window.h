@@ -9,8 +9,8 @@ class QPushButton;
 namespace qor {
 
 // The toolbox "Objets" ("Form1"): three framed groups of commands that
-// create buttons and text boxes and open the shape tools. The commands stay
-// disabled until the designer connects them.
+// create buttons and text boxes and open the shape tools; each command is
+// handed to the designer's one dispatch point.
 class ToolboxWindow : public ToolWindow {
     Q_OBJECT
 public:

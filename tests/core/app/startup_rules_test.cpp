@@ -88,7 +88,7 @@ TEST(MenuTitleColours, AHighlightedTitleSwapsTheAppearanceColours)
 }  // namespace
 }  // namespace qor
 
-#include "core/app/mouse_position.h"
+#include "core/designer/mouse_position.h"
 
 namespace qor {
 namespace {

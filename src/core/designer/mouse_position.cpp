@@ -1,4 +1,4 @@
-#include "core/app/mouse_position.h"
+#include "core/designer/mouse_position.h"
 
 #include "text/numbers.h"
 
