@@ -71,14 +71,14 @@ public:
         return out;
     }
 
-    EntryKind kind(const std::string& path) override
+    PathKind kind(const std::string& path) override
     {
         const std::string p = norm(path);
         if (links.count(p))
-            return EntryKind::Link;
+            return PathKind::Link;
         if (folders.count(p))
-            return EntryKind::Folder;
-        return files.count(p) ? EntryKind::File : EntryKind::None;
+            return PathKind::Folder;
+        return files.count(p) ? PathKind::File : PathKind::None;
     }
     bool isFolder(const std::string& path) override { return folders.count(follow(norm(path))) > 0; }
     std::optional<std::uint64_t> fileSize(const std::string& path) override
@@ -93,7 +93,7 @@ public:
         const std::string p = norm(path);
         if (Status s = writable(p); !s)
             return s;
-        if (kind(p) != EntryKind::None)
+        if (kind(p) != PathKind::None)
             return makeError(err::PathFileAccess, "exists: " + p);
         folders.insert(p);
         log.push_back("mkdir " + p);

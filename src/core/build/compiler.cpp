@@ -68,11 +68,11 @@ CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest&
 CompileOutcome Compiler::checkMainMenu(const std::string& target)
 {
     const std::string qor = target + "qor";
-    const EntryKind kind = files_.kind(qor);
-    if (kind == EntryKind::None)
+    const PathKind kind = files_.kind(qor);
+    if (kind == PathKind::None)
         return CompileOutcome::Done;
     // Emptying a link would empty the folder it points to, outside the target.
-    if (kind != EntryKind::Folder)
+    if (kind != PathKind::Folder)
         return refuse(qorNotAFolderMessage(target), true);
     if (dialogs_.message(replaceCompilationQuestion(target)) != Answer::Yes)
         return CompileOutcome::Declined;
@@ -86,12 +86,12 @@ CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
 {
     if (!isPlainFileName(request.subMenuName))
         return refuse(badFileNameMessage(request.subMenuName, "Sous menu"), false);
-    const EntryKind kind = files_.kind(request.target + "qor");
-    if (kind == EntryKind::None)
+    const PathKind kind = files_.kind(request.target + "qor");
+    if (kind == PathKind::None)
         return refuse(noMainMenuMessage(), false);
-    if (kind != EntryKind::Folder)
+    if (kind != PathKind::Folder)
         return refuse(qorNotAFolderMessage(request.target), true);
-    if (files_.kind(request.target + "qor/" + request.subMenuName + ".exe") != EntryKind::None)
+    if (files_.kind(request.target + "qor/" + request.subMenuName + ".exe") != PathKind::None)
         return refuse(subMenuExistsMessage(), false);
     return CompileOutcome::Done;
 }
@@ -128,9 +128,9 @@ Status Compiler::perform(const CompileAction& a, const MenuProject& project, con
     case K::Show: view.setStep(a.text); return {};
     case K::WriteAutorunInf: return files_.writeFile(a.target, autorunInfBytes());
     case K::CreateFolder:
-        return files_.kind(a.target) == EntryKind::Folder ? Status() : files_.createFolder(a.target);
+        return files_.kind(a.target) == PathKind::Folder ? Status() : files_.createFolder(a.target);
     case K::Copy: {
-        if (a.keepExisting && files_.kind(a.target) != EntryKind::None)
+        if (a.keepExisting && files_.kind(a.target) != PathKind::None)
             return {};
         const std::uint64_t before = done_;
         Status s = files_.copyFile(a.source, a.target, [&](std::uint64_t bytes) {

@@ -26,7 +26,7 @@ void ExecutableExport::run(const ExportKind& kind)
 
     c_.ports.view.discardCompileDialog();
     // An earlier export's media go first; a link is left alone.
-    if (c_.ports.files.kind(folder + "qor") == EntryKind::Folder) {
+    if (c_.ports.files.kind(folder + "qor") == PathKind::Folder) {
         c_.ports.files.removeFilesIn(folder + "qor/");
         (void)c_.ports.files.removeFolder(folder + "qor");
     }
@@ -76,7 +76,7 @@ void ExecutableExport::rearrange(const std::string& folder, const std::string& e
     (void)files.removeFile(folder + "Autorun.inf");
     (void)files.removeFile(qor + std::string(program_files::installer));
     (void)files.removeFile(qor + std::string(program_files::icon));
-    if (files.kind(qor + "autorun.exe") == EntryKind::File)
+    if (files.kind(qor + "autorun.exe") == PathKind::File)
         (void)files.rename(qor + "autorun.exe", executable);
 }
 

@@ -143,16 +143,16 @@ std::string tempPattern(const char* suffix)
 
 }  // namespace
 
-EntryKind LocalFileSystem::kind(const std::string& path)
+PathKind LocalFileSystem::kind(const std::string& path)
 {
     struct stat st {};
     if (path.empty() || ::lstat(path.c_str(), &st) != 0)
-        return EntryKind::None;
+        return PathKind::None;
     if (S_ISLNK(st.st_mode))
-        return EntryKind::Link;
+        return PathKind::Link;
     if (S_ISDIR(st.st_mode))
-        return EntryKind::Folder;
-    return S_ISREG(st.st_mode) ? EntryKind::File : EntryKind::Other;
+        return PathKind::Folder;
+    return S_ISREG(st.st_mode) ? PathKind::File : PathKind::Other;
 }
 
 bool LocalFileSystem::isFolder(const std::string& path)

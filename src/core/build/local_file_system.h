@@ -11,7 +11,7 @@ public:
     // Bytes per chunk of a copy: the interface is told after each one.
     static constexpr std::uint64_t kCopyChunk = 4u << 20;
 
-    EntryKind kind(const std::string& path) override;
+    PathKind kind(const std::string& path) override;
     bool isFolder(const std::string& path) override;
     std::optional<std::uint64_t> fileSize(const std::string& path) override;
     Status createFolder(const std::string& path) override;

@@ -49,15 +49,15 @@ void TestRun::clearFolder()
 {
     FileSystem& files = c_.ports.files;
     const std::string tmp = folder();
-    if (files.kind(tmp.substr(0, tmp.size() - 1)) == EntryKind::Folder) {
-        if (files.kind(tmp + "qor") == EntryKind::Folder) {
+    if (files.kind(tmp.substr(0, tmp.size() - 1)) == PathKind::Folder) {
+        if (files.kind(tmp + "qor") == PathKind::Folder) {
             files.removeFilesIn(tmp + "qor/");
             (void)files.removeFolder(tmp + "qor");
         }
         files.removeFilesIn(tmp);
         (void)files.removeFolder(tmp.substr(0, tmp.size() - 1));
     }
-    if (files.kind(tmp.substr(0, tmp.size() - 1)) == EntryKind::None)
+    if (files.kind(tmp.substr(0, tmp.size() - 1)) == PathKind::None)
         (void)files.createFolder(tmp.substr(0, tmp.size() - 1));
 }
 

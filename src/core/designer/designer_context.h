@@ -11,6 +11,7 @@
 #include "core/scripting/script_editor_flow.h"
 #include "core/ui/phrases.h"
 #include "model/menu_project.h"
+#include "core/ui/file_filters.h"
 
 namespace qor {
 
@@ -49,8 +50,6 @@ std::optional<std::string> askImage(Dialogs& dialogs, const std::string& title);
 // A file dialog that stores whatever path it returns.
 std::optional<std::string> askFile(Dialogs& dialogs, const std::string& title, const std::string& filter);
 
-inline constexpr std::string_view kImageFilter =
-    "Images *.jpg, *.jpeg, *.gif, *.bmp, *.ico | *.jpg;*.jpeg;*.gif;*.bmp;*.ico";
 
 // True when path names an existing file.
 bool fileExists(const std::string& path);

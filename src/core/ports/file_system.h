@@ -11,7 +11,7 @@
 namespace qor {
 
 // What stands at a path, the link itself when the path names a symbolic link.
-enum class EntryKind { None, File, Folder, Link, Other };
+enum class PathKind { None, File, Folder, Link, Other };
 
 // Told after each chunk of a copy: the bytes of this file written so far.
 using CopyProgress = std::function<void(std::uint64_t bytesSoFar)>;
@@ -23,7 +23,7 @@ class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    virtual EntryKind kind(const std::string& path) = 0;
+    virtual PathKind kind(const std::string& path) = 0;
     // A folder, or a link that leads to one.
     virtual bool isFolder(const std::string& path) = 0;
     // The size of a file (links followed), or nothing when it cannot be read.

@@ -13,6 +13,7 @@
 #include "core/wizard/wizard_form.h"
 #include "core/wizard/wizard_messages.h"
 #include "core/wizard/wizard_steps.h"
+#include "core/ui/file_filters.h"
 
 namespace qor {
 
@@ -143,9 +144,7 @@ private:
     bool finished_ = false;
 };
 
-// The filters of the wizard's file dialogs.
-inline constexpr std::string_view kImageFilter =
-    "Images *.jpg, *.jpeg, *.gif, *.bmp, *.ico | *.jpg;*.jpeg;*.gif;*.bmp;*.ico";
+// The wizard's sound filter (the designer's takes WAV only).
 inline constexpr std::string_view kSoundFilter =
     "Son *.wav, *.mp3, *.mid, *.aif, *.wma | *.wav;*.mp3;*.mid;*.aif;*.wma";
 

@@ -36,7 +36,7 @@ TEST(LocalFileSystem, EmptyingAFolderNeverReachesThroughLinks)
     EXPECT_EQ(dir.read("qor/sub/inner.txt"), "inner");
     EXPECT_EQ(outside.read("precious.txt"), "precious");
     EXPECT_FALSE(files.removeFolder(dir.file("qor")));  // the sub-folder keeps it
-    EXPECT_EQ(files.kind(dir.file("qorlink")), EntryKind::Link);
+    EXPECT_EQ(files.kind(dir.file("qorlink")), PathKind::Link);
     EXPECT_TRUE(files.isFolder(dir.file("qorlink")));
 }
 
