@@ -80,9 +80,8 @@ void MenuWindow::createTexts(std::size_t count)
             i, this, [this](std::size_t n, std::string text) { if (player_) player_->textEdited(n, std::move(text)); },
             [this] { if (player_) player_->pointerLeavesBackground(); });
         texts_[i] = box;
-        // Buttons stay above the text boxes.
-        if (!buttons_.empty())
-            box->stackUnder(buttons_.front());
+        // Text boxes stand above the buttons, as the worksheet shows them:
+        // they come after the buttons in the data.
         textChanged(i, textScenes_[i]);
     }
     if (textsMade_ < texts_.size())

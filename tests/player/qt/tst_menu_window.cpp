@@ -220,6 +220,20 @@ private slots:
         QCOMPARE(QString::fromStdString(script::toText(player_->module().eval("Texte2.Text").value)), QString("ab"));
     }
 
+    // The worksheet shows text boxes over the buttons; the menu must too.
+    void aTextBoxOverAButtonStaysInFront()
+    {
+        MenuProject p = buttonMenu();
+        MenuText& t = p.text(*p.addText());
+        t.left = 1500;
+        t.top = 750;
+        show(p);
+        const QPoint inside = window_->buttons()[0]->geometry().center();
+        QWidget* top = window_->childAt(inside);
+        QVERIFY(top);
+        QVERIFY(top == window_->texts()[0] || window_->texts()[0]->isAncestorOf(top));
+    }
+
     void theTimerChangesTheCaption()
     {
         MenuProject p;
