@@ -5,54 +5,14 @@
 #include "core/scripting/assistant_generators.h"
 #include "core/scripting/assistant_menu.h"
 #include "core/scripting/statement_block.h"
+#include "answering_dialogs.h"
 #include "menu_runtime_objects.h"
 
 namespace qor {
 namespace {
 
-// What the assistant is given for every path and name it asks.
-constexpr const char* kAnyPath = "[LECT]:\\mon dossier\\fichier 1.txt";
-
-// Answers every question of the assistant the way a user would, picked by
-// what the prompt asks for.
-class AnsweringDialogs : public Dialogs {
-public:
-    explicit AnsweringDialogs(std::string messageType = "information") : type_(std::move(messageType)) {}
-
-    std::string inputBox(const std::string& prompt, const std::string&, const std::string&) override
-    {
-        const std::pair<const char*, std::string> answers[] = {
-            {"Numéro", "2"},
-            {"Type  (", type_},
-            {"Boîte de texte dans laquelle", "Texte1"},
-            {"Lettre du lecteur", "e"},
-            {"Nouveau X", "10"},
-            {"Nouveau Y", "-20"},
-            {"Nouvelle largeur", "300"},
-            {"Nouvelle hauteur", "1.5"},
-            {"épaisseur", "3"},
-            {"intervalle", "1000"},
-            {"Nouveau texte", "Ligne 1[R]Ligne 2"},
-            {"Message", "Il dit \"oui\"[R]à tous"},
-        };
-        for (const auto& [fragment, answer] : answers)
-            if (prompt.find(fragment) != std::string::npos)
-                return answer;
-        return kAnyPath;
-    }
-    Answer message(const Message&) override { return Answer::Ok; }
-    std::optional<std::string> openFile(const FileDialogRequest&) override { return std::nullopt; }
-    std::optional<std::string> saveFile(const FileDialogRequest&) override { return std::nullopt; }
-    std::optional<std::string> pickFolder(const std::string&) override { return std::nullopt; }
-    std::optional<Colour> pickColour(Colour) override { return 0x00FF8040; }
-    std::optional<FontChoice> pickFont(const FontChoice&) override
-    {
-        return FontChoice{"Comic Sans MS", 9.75, true, false, true, false};
-    }
-
-private:
-    std::string type_;
-};
+using test::AnsweringDialogs;
+using test::kAnyPath;
 
 // Runs a block as the editor inserts it, comment lines included; every
 // statement has to reach the menu (an assignment, a message, a request).

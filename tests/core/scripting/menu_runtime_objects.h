@@ -13,8 +13,8 @@ namespace qor::test {
 // ImageFond, Minuteur, Action, Bouton1..Bouton100 and Texte1..Texte100, each
 // with exactly the members menu scripts are promised (any other fails with
 // error 438), plus the shell objects and LoadPicture of the script tests'
-// host. The tests of what the assistant writes run here; this is the one
-// place to swap for the player's own objects.
+// host. The tests of what the assistant writes run here, answer by answer;
+// the player's own objects run the same statements in the player's tests.
 class MenuRuntime {
 public:
     MenuRuntime();
