@@ -11,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   lua5.4 liblua5.4-dev
   fonts-dejavu-core
+  g++-mingw-w64-x86-64 wine wine64 xvfb xauth xdotool imagemagick
 )
 if [[ "${1:-}" == "fuzz" ]]; then
   packages+=(clang libclang-rt-14-dev)
