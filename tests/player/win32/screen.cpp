@@ -70,12 +70,24 @@ std::optional<Shot> screenShot()
     return shot;
 }
 
+std::optional<Shot> screenShotWhen(int x, int y, std::uint32_t rgb, int timeoutMs)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMs);
+    std::optional<Shot> shot = screenShot();
+    while ((!shot || shot->at(x, y) != rgb) && std::chrono::steady_clock::now() < end) {
+        pause(100);
+        shot = screenShot();
+    }
+    return shot;
+}
+
 std::optional<WindowBox> waitForWindow(const std::string& title, int timeoutMs)
 {
     const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMs);
     while (std::chrono::steady_clock::now() < end) {
         std::istringstream ids(output("xdotool search --onlyvisible --name '^" + title + "$' 2>/dev/null"));
         WindowBox box;
+        box.title = title;
         if (ids >> box.id) {
             const std::string geometry = output("xdotool getwindowgeometry " + box.id);
             if (readPair(geometry, "Position:", ',', box.x, box.y) &&
@@ -100,10 +112,15 @@ void moveTo(int x, int y)
     pause(300);
 }
 
-void pressKey(const WindowBox& window, const std::string& key)
+void pressOk(const WindowBox& box)
 {
-    output("xdotool windowactivate --sync " + window.id + " 2>/dev/null; xdotool key " + key);
-    pause(200);
+    // Without a window manager the first click may only bring the box to
+    // the front: click until it is gone.
+    for (int attempt = 0; attempt < 4; ++attempt) {
+        clickAt(box.x + box.width / 2, box.y + box.height - 22);
+        if (output("xdotool search --onlyvisible --name '^" + box.title + "$' 2>/dev/null").empty())
+            return;
+    }
 }
 
 WineProgram::WineProgram(const std::string& exe)

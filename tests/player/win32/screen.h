@@ -18,9 +18,13 @@ struct Shot {
     std::uint32_t at(int x, int y) const;
 };
 std::optional<Shot> screenShot();
+// A screenshot once the pixel at (x, y) has that colour (the window has
+// painted), or the last one taken when timeoutMs passed first.
+std::optional<Shot> screenShotWhen(int x, int y, std::uint32_t rgb, int timeoutMs);
 
 // A top-level window found by its exact title.
 struct WindowBox {
+    std::string title;
     std::string id;
     int x = 0;
     int y = 0;
@@ -32,7 +36,8 @@ std::optional<WindowBox> waitForWindow(const std::string& title, int timeoutMs);
 // Pointer and keys, as a user would give them.
 void clickAt(int x, int y);
 void moveTo(int x, int y);
-void pressKey(const WindowBox& window, const std::string& key);
+// The "OK" of a message box with that one button: bottom centre.
+void pressOk(const WindowBox& box);
 
 // A Windows program under wine, killed when the test ends.
 class WineProgram {

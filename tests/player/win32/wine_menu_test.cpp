@@ -56,9 +56,13 @@ struct Probe {
     std::uint32_t colour;
 };
 
+constexpr int kPaintMs = 5000;
+
+// The first probe is waited for: the window has painted when it shows.
 void expectPixels(const WindowBox& w, std::initializer_list<Probe> probes)
 {
-    const std::optional<Shot> shot = screenShot();
+    const Probe& first = *probes.begin();
+    const std::optional<Shot> shot = screenShotWhen(w.x + first.x, w.y + first.y, first.colour, kPaintMs);
     ASSERT_TRUE(shot) << "no screenshot (ImageMagick's import)";
     for (const Probe& p : probes)
         EXPECT_EQ(shot->at(w.x + p.x, w.y + p.y), p.colour)
@@ -93,7 +97,7 @@ TEST(WineMenu, OutlineCutsTheWindow)
     WineProgram player(makeMenu(cd.folder(), p, "QOR forme", sampleFiles()));
     const std::optional<WindowBox> w = waitForWindow("QOR forme", kStartMs);
     ASSERT_TRUE(w) << "the menu window never showed";
-    const std::optional<Shot> shot = screenShot();
+    const std::optional<Shot> shot = screenShotWhen(w->x + 20, w->y + 150, kRed, kPaintMs);
     ASSERT_TRUE(shot);
     EXPECT_EQ(shot->at(w->x + 20, w->y + 150), kRed) << "inside the outline";
     EXPECT_NE(shot->at(w->x + 390, w->y + 290), kRed) << "cut away";
@@ -108,7 +112,7 @@ TEST(WineMenu, StartupMessageThenQuitButtonEndsWithZero)
     WineProgram player(makeMenu(cd.folder(), p, "QOR quitter", sampleFiles()));
     const std::optional<WindowBox> box = waitForWindow("QOR accueil", kStartMs);
     ASSERT_TRUE(box) << "the startup message box never showed";
-    pressKey(*box, "Return");
+    pressOk(*box);
     const std::optional<WindowBox> w = waitForWindow("QOR quitter", kStartMs);
     ASSERT_TRUE(w) << "the menu window never showed";
     clickAt(w->x + 229, w->y + 119);
@@ -121,7 +125,7 @@ TEST(WineMenu, PlayerWithoutMenuSaysSoAndEnds)
     WineProgram player(copyBarePlayer(cd.folder(), "vide.exe"));
     const std::optional<WindowBox> box = waitForWindow("Erreur !", kStartMs);
     ASSERT_TRUE(box) << "no message for a player without menu";
-    pressKey(*box, "Return");
+    pressOk(*box);
     EXPECT_EQ(player.waitExit(10000), std::optional<int>(1));
 }
 
