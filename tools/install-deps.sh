@@ -12,6 +12,10 @@ packages=(
   lua5.4 liblua5.4-dev
   fonts-dejavu-core
   xorriso
+  g++-mingw-w64-x86-64 wine wine64 xvfb xauth xdotool imagemagick
+  # wine only loads these X libraries when present; without them its windows
+  # lose their cursors, transparency and screen geometry.
+  libxrender1 libxcursor1 libxrandr2 libxi6 libxcomposite1 libxinerama1 libxfixes3
 )
 if [[ "${1:-}" == "fuzz" ]]; then
   packages+=(clang libclang-rt-14-dev)

@@ -56,6 +56,17 @@ struct FileCloser {
 };
 using FilePtr = std::unique_ptr<std::FILE, FileCloser>;
 
+std::FILE* openFile(const std::filesystem::path& path, const char* mode)
+{
+#ifdef _WIN32
+    // Windows paths are wide: the narrow call would lose every accent.
+    const std::string m(mode);
+    return _wfopen(path.c_str(), std::wstring(m.begin(), m.end()).c_str());
+#else
+    return std::fopen(path.c_str(), mode);
+#endif
+}
+
 }  // namespace
 
 Result<std::string> readFileBytes(const std::filesystem::path& path)
@@ -64,7 +75,7 @@ Result<std::string> readFileBytes(const std::filesystem::path& path)
     if (std::filesystem::is_directory(path, ec))
         return makeError(err::PathFileAccess);
     errno = 0;
-    FilePtr file(std::fopen(path.c_str(), "rb"));
+    FilePtr file(openFile(path, "rb"));
     if (!file) {
         int e = errno ? errno : ENOENT;
         // A missing folder is "path not found", a missing file in an existing folder "file not found".
@@ -109,7 +120,7 @@ Status writeFileAtomically(const std::filesystem::path& path, std::string_view b
         tmp = path;
         tmp += "." + std::to_string(stamp % 1000000007) + "-" + std::to_string(counter++) + ".tmp";
         errno = 0;
-        file.reset(std::fopen(tmp.c_str(), "wbx"));
+        file.reset(openFile(tmp, "wbx"));
         if (!file && errno == ENOENT)   // the new file cannot be made: its folder is missing
             return makeError(err::PathNotFound, std::strerror(ENOENT));
         if (!file && errno != EEXIST)
@@ -139,8 +150,9 @@ Status writeFileAtomically(const std::filesystem::path& path, std::string_view b
     if (!ec && fs::exists(old))
         fs::permissions(tmp, old.permissions(), ec);
     errno = 0;
-    if (std::rename(tmp.c_str(), path.c_str()) != 0) {
-        int e = errno ? errno : EACCES;
+    fs::rename(tmp, path, ec);
+    if (ec) {
+        const int e = ec.value() ? ec.value() : EACCES;
         fs::remove(tmp, ec);
         return fileSystemError(e);
     }

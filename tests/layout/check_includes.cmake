@@ -24,7 +24,7 @@ set(uses_player/core model script text)
 set(uses_player/qt player/core model script text)
 set(uses_player/win32 player/core model script text)
 set(uses_tools core player/core model script text)
-set(qt_free text model script core player/core)
+set(qt_free text model script core player/core player/win32)
 
 # The library a path (relative to SRC, or an include) belongs to; "" for none.
 function(library_of path out)

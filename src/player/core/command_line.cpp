@@ -1,6 +1,7 @@
 #include "player/core/command_line.h"
 
 #include "model/product.h"
+#include "player/core/executable_image.h"
 #include "player/core/system_port.h"
 #include "text/text_helpers.h"
 
@@ -25,7 +26,10 @@ LoadResult loadMenu(const SystemPort& system, const std::string& file)
     std::optional<std::string> bytes = system.readFile(file);
     if (!bytes)
         return LoadFailure{"Impossible de lire le fichier du menu :\r\n" + file};
-    MenuDataResult read = readMenuData(*bytes);
+    // The menu is appended to a player program, whose own code also holds
+    // the data's marker texts: only what lies past the program is looked at.
+    const std::string_view appended = std::string_view(*bytes).substr(executableImageEnd(*bytes));
+    MenuDataResult read = readMenuData(appended);
     if (auto* error = std::get_if<MenuDataError>(&read))
         return LoadFailure{error->message()};
     return std::get<MenuData>(std::move(read));

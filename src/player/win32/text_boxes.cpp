@@ -1,0 +1,169 @@
+#include "player/win32/text_boxes.h"
+
+#include <algorithm>
+
+#include "player/core/pixels.h"
+#include "player/win32/colours.h"
+#include "player/win32/wide.h"
+
+namespace qor::player {
+namespace {
+
+// By the scene's alignment number: left, right, centred.
+constexpr DWORD kAlignments[] = {ES_LEFT, ES_RIGHT, ES_CENTER};
+constexpr DWORD kAlignmentBits = ES_LEFT | ES_RIGHT | ES_CENTER;
+constexpr double kDefaultFontSize = 8.25;
+
+DWORD styleOf(const TextScene& t)
+{
+    const DWORD align = t.alignment >= 0 && t.alignment <= 2 ? kAlignments[t.alignment] : ES_LEFT;
+    return WS_CHILD | WS_BORDER | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | align |
+           (t.scrollBar ? WS_VSCROLL : 0) | (t.locked ? ES_READONLY : 0) | (t.visible ? WS_VISIBLE : 0);
+}
+
+HFONT fontOf(const TextScene& t)
+{
+    const double points = t.fontSize > 0 && t.fontSize < 1000 ? t.fontSize : kDefaultFontSize;
+    HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    const int height = -int(points * dpi / 72.0 + 0.5);
+    return CreateFontW(height, 0, 0, 0, t.fontBold ? FW_BOLD : FW_NORMAL, t.fontItalic, t.fontUnderline,
+                       t.fontStrikethru, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                       DEFAULT_PITCH | FF_DONTCARE, widen(t.fontName).c_str());
+}
+
+std::wstring windowText(HWND window)
+{
+    std::wstring text(std::size_t(GetWindowTextLengthW(window)), L'\0');
+    if (!text.empty())
+        GetWindowTextW(window, text.data(), int(text.size() + 1));
+    return text;
+}
+
+}  // namespace
+
+TextBoxes::TextBoxes(HWND parent, Edited edited) : parent_(parent), edited_(std::move(edited)) {}
+
+TextBoxes::~TextBoxes()
+{
+    for (Box& box : boxes_)
+        release(box);
+}
+
+void TextBoxes::release(Box& box)
+{
+    if (box.window)
+        DestroyWindow(box.window);
+    if (box.font)
+        DeleteObject(box.font);
+    if (box.brush)
+        DeleteObject(box.brush);
+    box = Box{box.scene};
+}
+
+void TextBoxes::reset(const std::vector<TextScene>& texts, const ScreenInfo& screen)
+{
+    for (Box& box : boxes_)
+        release(box);
+    screen_ = screen;
+    boxes_.assign(texts.size(), Box{});
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        boxes_[i].scene = texts[i];
+    made_ = 0;
+}
+
+bool TextBoxes::createSome(std::size_t count)
+{
+    const std::size_t end = std::min(boxes_.size(), made_ + count);
+    for (; made_ < end; ++made_) {
+        Box& box = boxes_[made_];
+        box.window = CreateWindowExW(0, L"EDIT", L"", styleOf(box.scene), 0, 0, 0, 0, parent_, nullptr,
+                                     GetModuleHandleW(nullptr), nullptr);
+        if (!box.window)
+            continue;
+        SetWindowLongPtrW(box.window, GWLP_USERDATA, LONG_PTR(made_ + 1));
+        SendMessageW(box.window, EM_SETLIMITTEXT, 0, 0);
+        // Buttons are drawn on the window itself: the boxes go below nothing.
+        present(box);
+    }
+    return made_ < boxes_.size();
+}
+
+void TextBoxes::change(std::size_t index, const TextScene& text)
+{
+    if (index >= boxes_.size())
+        return;
+    boxes_[index].scene = text;
+    if (boxes_[index].window)
+        present(boxes_[index]);
+}
+
+const TextScene* TextBoxes::sceneOf(HWND edit) const
+{
+    const std::optional<std::size_t> i = indexOf(edit);
+    return i ? &boxes_[*i].scene : nullptr;
+}
+
+std::optional<std::size_t> TextBoxes::indexOf(HWND edit) const
+{
+    if (!edit || GetParent(edit) != parent_)
+        return std::nullopt;
+    const auto tag = std::size_t(GetWindowLongPtrW(edit, GWLP_USERDATA));
+    if (tag == 0 || tag > boxes_.size() || boxes_[tag - 1].window != edit)
+        return std::nullopt;
+    return tag - 1;
+}
+
+void TextBoxes::present(Box& box)
+{
+    const TextScene& t = box.scene;
+    const std::wstring text = withCrLf(widen(t.text));
+    setting_ = true;
+    if (windowText(box.window) != text)
+        SetWindowTextW(box.window, text.c_str());
+    setting_ = false;
+    const auto style = DWORD(GetWindowLongPtrW(box.window, GWL_STYLE));
+    const DWORD wanted = styleOf(t);
+    if ((style & (kAlignmentBits | WS_VSCROLL)) != (wanted & (kAlignmentBits | WS_VSCROLL)))
+        SetWindowLongPtrW(box.window, GWL_STYLE, LONG_PTR((style & ~(kAlignmentBits | WS_VSCROLL)) |
+                                                          (wanted & (kAlignmentBits | WS_VSCROLL))));
+    SendMessageW(box.window, EM_SETREADONLY, t.locked, 0);
+    HFONT old = box.font;
+    box.font = fontOf(t);
+    SendMessageW(box.window, WM_SETFONT, WPARAM(box.font), FALSE);
+    if (old)
+        DeleteObject(old);
+    if (box.brush)
+        DeleteObject(box.brush);
+    box.brush = CreateSolidBrush(toColorRef(t.backColor));
+    SetWindowPos(box.window, nullptr, twipsToPixels(t.left, screen_.twipsPerPixelX),
+                 twipsToPixels(t.top, screen_.twipsPerPixelY),
+                 std::max(0, twipsToPixels(t.width, screen_.twipsPerPixelX)),
+                 std::max(0, twipsToPixels(t.height, screen_.twipsPerPixelY)),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED | (t.visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+    InvalidateRect(box.window, nullptr, TRUE);
+}
+
+HBRUSH TextBoxes::colours(HWND edit, HDC dc)
+{
+    const std::optional<std::size_t> i = indexOf(edit);
+    if (!i)
+        return nullptr;
+    const Box& box = boxes_[*i];
+    SetTextColor(dc, toColorRef(box.scene.foreColor));
+    SetBkColor(dc, toColorRef(box.scene.backColor));
+    return box.brush;
+}
+
+void TextBoxes::changed(HWND edit)
+{
+    const std::optional<std::size_t> i = indexOf(edit);
+    if (setting_ || !i)
+        return;
+    std::string text = narrow(windowText(edit));
+    boxes_[*i].scene.text = text;
+    edited_(*i, std::move(text));
+}
+
+}  // namespace qor::player

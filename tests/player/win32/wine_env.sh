@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Runs the Windows player's checks under wine, in the build's own prefix.
+#   wine_env.sh PREFIX init          make the prefix once (wine's first start is slow)
+#   wine_env.sh PREFIX wine EXE ...  a Windows program
+#   wine_env.sh PREFIX exec CMD ...  a Linux program that starts Windows ones itself
+# A check that cannot run because wine cannot start fails and says why.
+set -uo pipefail
+prefix=$1; what=$2; shift 2
+export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=-all
+# No Mono or Gecko: the player needs neither, and their install prompts would block.
+export WINEDLLOVERRIDES="mscoree,mshtml="
+
+fail() { echo "wine cannot start: $*" >&2; exit 1; }
+command -v wine >/dev/null || fail "no wine on this machine (tools/install-deps.sh installs it)"
+
+case $what in
+init)
+  if [[ -f $prefix/system.reg ]]; then
+    echo "wine prefix ready: $prefix"
+    exit 0
+  fi
+  mkdir -p "$prefix"
+  start=$(date +%s%N)
+  wine wineboot --init >"$prefix.log" 2>&1 || { cat "$prefix.log" >&2; fail "wineboot failed in $prefix"; }
+  wineserver -w
+  [[ -f $prefix/system.reg ]] || fail "wineboot made no prefix in $prefix"
+  echo "wine prefix made in $(( ($(date +%s%N) - start) / 1000000 )) ms: $prefix"
+  ;;
+wine)
+  [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  exec wine "$@"
+  ;;
+exec)
+  [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  exec "$@"
+  ;;
+*) echo "unknown step: $what" >&2; exit 2 ;;
+esac

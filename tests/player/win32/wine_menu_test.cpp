@@ -1,0 +1,133 @@
+// The Windows player as a user meets it: compiled menus started under wine
+// in a virtual screen, looked at through screenshots and used with the pointer.
+#include <gtest/gtest.h>
+
+#include "menu_maker.h"
+#include "screen.h"
+#include "temp_dir.h"
+
+namespace qor::test {
+namespace {
+
+constexpr int kStartMs = 30000;      // wine starts a program in a few seconds; a slow machine gets more
+constexpr std::uint32_t kRed = 0xFF0000, kGreen = 0x00FF00, kBlue = 0x0000FF, kYellow = 0xFFFF00;
+
+MenuButton& addButton(MenuProject& p, float left, float top, const std::string& image, std::string_view kind)
+{
+    MenuButton& b = p.button(*p.addButton());
+    b.left = left;
+    b.top = top;
+    b.normalImage = image + "_n.bmp";
+    b.hoverImage = image + "_s.bmp";
+    b.pressedImage = image + "_c.bmp";
+    b.kind = std::string(kind);
+    return b;
+}
+
+// 400 x 300 pixels on a 96-dpi screen, red, with a green and a blue button
+// (yellow under the pointer) and the second one closing the menu.
+MenuProject sampleMenu()
+{
+    MenuProject p;
+    p.width = 6000;
+    p.height = 4500;
+    p.backgroundColor = 0x000000FF;
+    addButton(p, 600, 600, "vert", button_kind::code).action = "Fenetre.Caption = \"clic\"";
+    addButton(p, 3000, 1500, "bleu", button_kind::quit);
+    return p;
+}
+
+std::map<std::string, std::string> sampleFiles()
+{
+    std::map<std::string, std::string> files;
+    for (const char* look : {"_n.bmp", "_c.bmp"}) {
+        files[std::string("vert") + look] = solidBitmap(50, 30, kGreen);
+        files[std::string("bleu") + look] = solidBitmap(60, 40, kBlue);
+    }
+    files["vert_s.bmp"] = solidBitmap(50, 30, kYellow);
+    files["bleu_s.bmp"] = solidBitmap(60, 40, kYellow);
+    return files;
+}
+
+struct Probe {
+    const char* what;
+    int x;
+    int y;
+    std::uint32_t colour;
+};
+
+constexpr int kPaintMs = 5000;
+
+// The first probe is waited for: the window has painted when it shows.
+void expectPixels(const WindowBox& w, std::initializer_list<Probe> probes)
+{
+    const Probe& first = *probes.begin();
+    const std::optional<Shot> shot = screenShotWhen(w.x + first.x, w.y + first.y, first.colour, kPaintMs);
+    ASSERT_TRUE(shot) << "no screenshot (ImageMagick's import)";
+    for (const Probe& p : probes)
+        EXPECT_EQ(shot->at(w.x + p.x, w.y + p.y), p.colour)
+            << p.what << " at " << p.x << "," << p.y << std::hex << " is 0x" << shot->at(w.x + p.x, w.y + p.y);
+}
+
+TEST(WineMenu, WindowHasItsSizeBackgroundAndButtons)
+{
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), sampleMenu(), "QOR fenetre", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR fenetre", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    EXPECT_EQ(w->width, 400);
+    EXPECT_EQ(w->height, 300);
+    expectPixels(*w, {{"background", 10, 150, kRed},
+                      {"background right of button 1", 95, 55, kRed},
+                      {"button 1", 64, 54, kGreen},
+                      {"button 1 corner", 40, 40, kGreen},
+                      {"button 2", 229, 119, kBlue},
+                      {"border", 0, 150, 0x000000},
+                      {"border", 399, 150, 0x000000}});
+    moveTo(w->x + 65, w->y + 55);
+    expectPixels(*w, {{"button 1 under the pointer", 64, 54, kYellow}, {"button 2", 229, 119, kBlue}});
+}
+
+TEST(WineMenu, OutlineCutsTheWindow)
+{
+    MenuProject p = sampleMenu();
+    // The upper-left half of the window: a triangle.
+    p.shapePoints = {{0, 0}, {6000, 0}, {0, 4500}};
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), p, "QOR forme", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR forme", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    const std::optional<Shot> shot = screenShotWhen(w->x + 20, w->y + 150, kRed, kPaintMs);
+    ASSERT_TRUE(shot);
+    EXPECT_EQ(shot->at(w->x + 20, w->y + 150), kRed) << "inside the outline";
+    EXPECT_NE(shot->at(w->x + 390, w->y + 290), kRed) << "cut away";
+    EXPECT_NE(shot->at(w->x + 229, w->y + 219), kRed) << "cut away";
+}
+
+TEST(WineMenu, StartupMessageThenQuitButtonEndsWithZero)
+{
+    MenuProject p = sampleMenu();
+    p.startupAction = "VBS:MsgBox \"Bonjour\", 64, \"QOR accueil\"";
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), p, "QOR quitter", sampleFiles()));
+    const std::optional<WindowBox> box = waitForWindow("QOR accueil", kStartMs);
+    ASSERT_TRUE(box) << "the startup message box never showed";
+    pressOk(*box);
+    const std::optional<WindowBox> w = waitForWindow("QOR quitter", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    clickAt(w->x + 229, w->y + 119);
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "the quit button did not end the menu";
+}
+
+TEST(WineMenu, PlayerWithoutMenuSaysSoAndEnds)
+{
+    TempDir cd;
+    WineProgram player(copyBarePlayer(cd.folder(), "vide.exe"));
+    const std::optional<WindowBox> box = waitForWindow("Erreur !", kStartMs);
+    ASSERT_TRUE(box) << "no message for a player without menu";
+    pressOk(*box);
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(1));
+}
+
+}  // namespace
+}  // namespace qor::test
