@@ -15,60 +15,11 @@ extern "C" {
 }
 
 #include "script/module.h"
+#include "script_loops.h"
 
 using namespace qor::script;
 
 namespace {
-
-constexpr int kTurns = 1000000;
-
-const char* kVbs = R"(
-Function NumLoop(n)
-    Dim i, s
-    s = 0
-    For i = 1 To n
-        s = s + i
-        If s > 1000000 Then s = s - 1000000
-    Next
-    NumLoop = s
-End Function
-
-Function BigLoop(n)
-    Dim i, s, d
-    s = 0
-    d = 0.5
-    For i = 1 To n
-        s = s + i
-        If d < s Then d = d + 1.5
-    Next
-    BigLoop = s
-End Function
-
-Function StrLoop(n)
-    Dim i, a, b, s, t
-    a = "menu"
-    b = "QOR"
-    t = 0
-    For i = 1 To n
-        s = a & b
-        t = t + Len(s) + Len(Mid(s, 2, 3)) + InStr(s, "QOR")
-    Next
-    StrLoop = t
-End Function
-
-Function Inc(x)
-    Inc = x + 1
-End Function
-
-Function CallLoop(n)
-    Dim i, s
-    s = 0
-    For i = 1 To n
-        s = Inc(s)
-    Next
-    CallLoop = s
-End Function
-)";
 
 const char* kLua = R"(
 function numloop(n)
@@ -112,10 +63,12 @@ end
 )";
 
 // Both engines must agree on every result, or the timing means nothing.
-constexpr double kNumResult = 500000;
-constexpr double kBigResult = 500000500000.0;
-constexpr double kStrResult = 15.0 * kTurns;
-constexpr double kCallResult = kTurns;
+using qor::bench::kNumResult;
+using qor::bench::kBigResult;
+using qor::bench::kStrResult;
+using qor::bench::kCallResult;
+using qor::bench::kTurns;
+using qor::bench::kVbs;
 
 void runVbs(benchmark::State& state, const char* proc, double expected)
 {

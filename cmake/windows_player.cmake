@@ -18,3 +18,14 @@ add_subdirectory(src/player/win32)
 if(QOR_BUILD_TESTS)
   add_subdirectory(tests/player/win32)
 endif()
+
+# What the Windows player is measured against under wine (bench/win32): an
+# empty Win32 window for its start, and the engine's loops for its scripts.
+add_executable(empty_window WIN32 ${CMAKE_SOURCE_DIR}/bench/win32/empty_window.cpp)
+target_link_options(empty_window PRIVATE -municode)
+qor_warnings(empty_window)
+add_executable(script_loops ${CMAKE_SOURCE_DIR}/bench/win32/script_loops_main.cpp)
+target_include_directories(script_loops PRIVATE ${CMAKE_SOURCE_DIR}/bench)
+target_link_libraries(script_loops PRIVATE qorscript)
+target_link_options(script_loops PRIVATE ${QOR_WIN32_STACK_OPTION})
+qor_warnings(script_loops)
