@@ -16,8 +16,11 @@ namespace {
 
 constexpr wchar_t kWindowClass[] = L"QorMenuWindow";
 constexpr UINT_PTR kTimerId = 1;
-constexpr UINT kMakeTexts = WM_APP + 1;
-constexpr std::size_t kTextsAtOnce = 200;
+// The text boxes still to make come on a timer: the system hands out timer
+// messages only when no input waits, so the menu answers the user between
+// batches however many boxes it has.
+constexpr UINT_PTR kMakeTextsTimerId = 2;
+constexpr std::size_t kTextsAtOnce = 50;
 // A button without its picture still shows, to be seen and clicked.
 constexpr SIZE kPlaceholderSize{75, 25};
 
@@ -98,7 +101,7 @@ void MenuWindow::show(const Scene& scene)
     buttons_ = scene.buttons;
     texts_.reset(scene.texts, screen_);
     if (texts_.createSome(kTextsAtOnce))
-        PostMessageW(hwnd_, kMakeTexts, 0, 0);
+        SetTimer(hwnd_, kMakeTextsTimerId, USER_TIMER_MINIMUM, nullptr);
     windowChanged(scene.window);
 }
 
@@ -340,6 +343,8 @@ LRESULT MenuWindow::handle(UINT message, WPARAM w, LPARAM l)
     case WM_TIMER:
         if (w == kTimerId && player_)
             player_->timerTick();
+        if (w == kMakeTextsTimerId && (closing_ || !texts_.createSome(kTextsAtOnce)))
+            KillTimer(hwnd_, kMakeTextsTimerId);
         return 0;
     case WM_SETCURSOR:
         if (LOWORD(l) == HTCLIENT && setCursor(HWND(w)))
@@ -366,10 +371,6 @@ LRESULT MenuWindow::handle(UINT message, WPARAM w, LPARAM l)
     case MM_MCINOTIFY:
         if (w == MCI_NOTIFY_SUCCESSFUL)
             media_.musicEnded();
-        return 0;
-    case kMakeTexts:
-        if (!closing_ && texts_.createSome(kTextsAtOnce))
-            PostMessageW(hwnd_, kMakeTexts, 0, 0);
         return 0;
     case WM_CLOSE:
         // The system's close goes through the player, which stops the media

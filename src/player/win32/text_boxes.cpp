@@ -49,23 +49,48 @@ TextBoxes::~TextBoxes()
 {
     for (Box& box : boxes_)
         release(box);
+    releaseShared();
 }
 
 void TextBoxes::release(Box& box)
 {
     if (box.window)
         DestroyWindow(box.window);
-    if (box.font)
-        DeleteObject(box.font);
-    if (box.brush)
-        DeleteObject(box.brush);
     box = Box{box.scene};
+}
+
+void TextBoxes::releaseShared()
+{
+    for (auto& [key, f] : fonts_)
+        DeleteObject(f);
+    fonts_.clear();
+    for (auto& [colour, b] : brushes_)
+        DeleteObject(b);
+    brushes_.clear();
+}
+
+HFONT TextBoxes::font(const TextScene& t)
+{
+    const FontKey key{t.fontName, t.fontSize, t.fontBold, t.fontItalic, t.fontUnderline, t.fontStrikethru};
+    auto [at, added] = fonts_.try_emplace(key, nullptr);
+    if (added)
+        at->second = fontOf(t);
+    return at->second;
+}
+
+HBRUSH TextBoxes::brush(COLORREF colour)
+{
+    auto [at, added] = brushes_.try_emplace(colour, nullptr);
+    if (added)
+        at->second = CreateSolidBrush(colour);
+    return at->second;
 }
 
 void TextBoxes::reset(const std::vector<TextScene>& texts, const ScreenInfo& screen)
 {
     for (Box& box : boxes_)
         release(box);
+    releaseShared();
     screen_ = screen;
     boxes_.assign(texts.size(), Box{});
     for (std::size_t i = 0; i < texts.size(); ++i)
@@ -129,14 +154,9 @@ void TextBoxes::present(Box& box)
         SetWindowLongPtrW(box.window, GWL_STYLE, LONG_PTR((style & ~(kAlignmentBits | WS_VSCROLL)) |
                                                           (wanted & (kAlignmentBits | WS_VSCROLL))));
     SendMessageW(box.window, EM_SETREADONLY, t.locked, 0);
-    HFONT old = box.font;
-    box.font = fontOf(t);
+    box.font = font(t);
     SendMessageW(box.window, WM_SETFONT, WPARAM(box.font), FALSE);
-    if (old)
-        DeleteObject(old);
-    if (box.brush)
-        DeleteObject(box.brush);
-    box.brush = CreateSolidBrush(toColorRef(t.backColor));
+    box.brush = brush(toColorRef(t.backColor));
     SetWindowPos(box.window, nullptr, twipsToPixels(t.left, screen_.twipsPerPixelX),
                  twipsToPixels(t.top, screen_.twipsPerPixelY),
                  std::max(0, twipsToPixels(t.width, screen_.twipsPerPixelX)),

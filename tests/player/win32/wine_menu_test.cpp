@@ -2,6 +2,8 @@
 // in a virtual screen, looked at through screenshots and used with the pointer.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "menu_maker.h"
 #include "screen.h"
 #include "temp_dir.h"
@@ -127,6 +129,41 @@ TEST(WineMenu, PlayerWithoutMenuSaysSoAndEnds)
     ASSERT_TRUE(box) << "no message for a player without menu";
     pressOk(*box);
     EXPECT_EQ(player.waitExit(10000), std::optional<int>(1));
+}
+
+// Hostile data all at once: 10 000 text boxes, an outline of 100 000 points
+// and a startup script that never ends. The engine's step budget stops the
+// script with a message, the window shows, cut, and a click reaches the quit
+// button while the boxes are still being made.
+TEST(WineMenu, HostileMenuStillShowsAndCloses)
+{
+    MenuProject p = sampleMenu();
+    p.startupAction = "VBS:Do : Loop";
+    for (int i = 0; i < 10000; ++i) {
+        MenuText& t = p.text(*p.addText());
+        t.content = "t";
+        t.left = float(i % 100) * 10;
+        t.top = 4000;
+        t.width = 150;
+        t.height = 150;
+    }
+    constexpr int kPoints = 100000;
+    for (int i = 0; i < kPoints; ++i) {
+        const double a = 2 * M_PI * i / kPoints;
+        p.shapePoints.push_back({std::int32_t(std::lround(3000 + 2200 * std::cos(a))), std::int32_t(std::lround(2250 + 2200 * std::sin(a)))});
+    }
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), p, "QOR hostile", sampleFiles()));
+    const std::optional<WindowBox> box = waitForWindow("Erreur !", 2 * kStartMs);
+    ASSERT_TRUE(box) << "the endless startup script was never stopped with a message";
+    pressOk(*box);
+    const std::optional<WindowBox> w = waitForWindow("QOR hostile", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    const std::optional<Shot> shot = screenShotWhen(w->x + 200, w->y + 20, kRed, kPaintMs);
+    ASSERT_TRUE(shot) << "the window inside the outline never painted";
+    EXPECT_NE(shot->at(w->x + 2, w->y + 2), kRed) << "the corner lies outside the outline";
+    clickAt(w->x + 229, w->y + 119);
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "the quit button did not end the menu";
 }
 
 }  // namespace
