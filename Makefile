@@ -32,6 +32,8 @@ test: build
 
 bench: build
 	@for b in $(BUILD)/bench/*_bench; do echo "== $$b"; $$b || exit 1; done
+	@if [ -x $(BUILD)/bench/win32_menu99 ]; then echo "== Windows player under wine"; \
+	  bash bench/win32/run_under_wine.sh $(BUILD); fi
 
 fuzz:
 	@bash tools/install-deps.sh fuzz
