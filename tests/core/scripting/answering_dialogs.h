@@ -1,10 +1,15 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/ports/dialogs.h"
+#include "core/scripting/assistant_generators.h"
+#include "core/scripting/assistant_menu.h"
 
 namespace qor::test {
 
@@ -51,5 +56,35 @@ public:
 private:
     std::string type_;
 };
+
+
+// Every statement the assistant can write, answered as above: run(block,
+// context) once per entry of the menu and once per cursor of each entry that
+// asks for a cursor. A generator that writes nothing fails the test.
+template <class Run>
+void forEveryAssistantStatement(const std::vector<AssistantEntry>& entries, Run&& run)
+{
+    for (const AssistantEntry& e : entries) {
+        if (!e.children.empty()) {
+            forEveryAssistantStatement(e.children, run);
+            continue;
+        }
+        if (e.name == kAssistantCancelName)
+            continue;
+        AnsweringDialogs dialogs;
+        const AssistantResult result = runAssistantEntry(e.name, e.index, dialogs);
+        const std::string context = e.name + " " + std::to_string(e.index);
+        if (result.cursorObject) {
+            for (const AssistantEntry& cursor : cursorMenu()) {
+                const auto block = cursorStatement(*result.cursorObject, cursor.index, dialogs);
+                ASSERT_TRUE(block) << context << " cursor " << cursor.index;
+                run(*block, context + " cursor " + std::to_string(cursor.index));
+            }
+            continue;
+        }
+        ASSERT_TRUE(result.block) << context;
+        run(*result.block, context);
+    }
+}
 
 }  // namespace qor::test

@@ -12,6 +12,7 @@ namespace qor {
 namespace {
 
 using test::AnsweringDialogs;
+using test::forEveryAssistantStatement;
 using test::kAnyPath;
 
 // Runs a block as the editor inserts it, comment lines included; every
@@ -28,37 +29,13 @@ std::vector<std::string> expectRuns(const StatementBlock& block, const std::stri
     return menu.effects();
 }
 
-void runEveryEntry(const std::vector<AssistantEntry>& entries, int& statements)
-{
-    for (const AssistantEntry& e : entries) {
-        if (!e.children.empty()) {
-            runEveryEntry(e.children, statements);
-            continue;
-        }
-        if (e.name == kAssistantCancelName)
-            continue;
-        AnsweringDialogs dialogs;
-        const AssistantResult result = runAssistantEntry(e.name, e.index, dialogs);
-        const std::string context = e.name + " " + std::to_string(e.index);
-        if (result.cursorObject) {
-            for (const AssistantEntry& cursor : cursorMenu()) {
-                const auto block = cursorStatement(*result.cursorObject, cursor.index, dialogs);
-                ASSERT_TRUE(block) << context << " cursor " << cursor.index;
-                expectRuns(*block, context + " cursor " + std::to_string(cursor.index));
-                ++statements;
-            }
-            continue;
-        }
-        ASSERT_TRUE(result.block) << context;
-        expectRuns(*result.block, context);
-        ++statements;
-    }
-}
-
 TEST(AssistantStatements, EveryStatementRunsOnTheMenuObjects)
 {
     int statements = 0;
-    runEveryEntry(assistantMenu(), statements);
+    forEveryAssistantStatement(assistantMenu(), [&](const StatementBlock& block, const std::string& context) {
+        expectRuns(block, context);
+        ++statements;
+    });
     // 57 generators, two of them families of three entries, and four cursor
     // objects with nine cursors each.
     EXPECT_EQ(statements, 57 + 2 * 2 + 4 * 9);

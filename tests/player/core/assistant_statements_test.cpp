@@ -41,37 +41,14 @@ protected:
         ++statements;
     }
 
-    void runEvery(const std::vector<AssistantEntry>& entries)
-    {
-        for (const AssistantEntry& e : entries) {
-            if (!e.children.empty()) {
-                runEvery(e.children);
-                continue;
-            }
-            if (e.name == kAssistantCancelName)
-                continue;
-            AnsweringDialogs dialogs;
-            const AssistantResult result = runAssistantEntry(e.name, e.index, dialogs);
-            const std::string context = e.name + " " + std::to_string(e.index);
-            if (result.cursorObject) {
-                for (const AssistantEntry& cursor : cursorMenu()) {
-                    const auto block = cursorStatement(*result.cursorObject, cursor.index, dialogs);
-                    ASSERT_TRUE(block) << context << " cursor " << cursor.index;
-                    expectRuns(*block, context + " cursor " + std::to_string(cursor.index));
-                }
-                continue;
-            }
-            ASSERT_TRUE(result.block) << context;
-            expectRuns(*result.block, context);
-        }
-    }
-
     int statements = 0;
 };
 
 TEST_F(AssistantOnThePlayer, EveryStatementRunsAndReachesTheMenu)
 {
-    runEvery(assistantMenu());
+    qor::test::forEveryAssistantStatement(assistantMenu(), [this](const StatementBlock& block, const std::string& context) {
+        expectRuns(block, context);
+    });
     // 57 generators, two of them families of three entries, and four cursor
     // objects with nine cursors each.
     EXPECT_EQ(statements, 57 + 2 * 2 + 4 * 9);
