@@ -59,7 +59,18 @@ private slots:
     void hoverAndPressedPreviewsFollowThePointer();
     void windowPanelControlsWriteTheProject();
     void badPicturesNeitherCrashNorHang();
+    void worksheetCaptionFromTheStart();
 };
+
+// Started without a project, the worksheet already names its size.
+void TestDesigner::worksheetCaptionFromTheStart()
+{
+    Session s;
+    QCOMPARE(s.start(), StartOutcome::Running);
+    WorksheetWindow& sheet = s.windows().worksheet();
+    QVERIFY(sheet.windowTitle().startsWith(QStringLiteral("Feuille de travail - ")));
+    QVERIFY(sheet.windowTitle().endsWith(QStringLiteral("px")));
+}
 
 void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
 {

@@ -104,6 +104,9 @@ void EditorApplication::connectWorksheet()
     });
     QObject::connect(&sheet, &WorksheetWindow::resized, &sheet,
                      [this, &sheet](bool byUser) { core_.designer().worksheet().resized(windows_.outerSize(sheet), byUser); });
+    // The worksheet took its first size before it was connected: its caption
+    // and the panel's size fields follow that size from the start.
+    core_.designer().worksheet().resized(windows_.outerSize(sheet), false);
     QObject::connect(&sheet, &WorksheetWindow::keyCommand, &sheet, [this](int key) {
         switch (key) {
         case Qt::Key_Delete: core_.designer().deleteButton(); break;
