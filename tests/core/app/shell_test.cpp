@@ -280,6 +280,15 @@ TEST_F(ShellFixture, BuildCommandsGoToTheBuild)
     EXPECT_EQ(build.calls, (std::vector<std::string>{"test run", "compile dialog", "executable", "html"}));
 }
 
+TEST_F(ShellFixture, EachPrintEntryOpensThePreviewWithItsIndex)
+{
+    ASSERT_EQ(start(), StartOutcome::Running);
+    view.log.clear();
+    for (CommandId id : {CommandId::PrintToPaper, CommandId::PrintToBmp, CommandId::PrintToClipboard})
+        shell->run(id);
+    EXPECT_EQ(view.log, (std::vector<std::string>{"print preview 2", "print preview 0", "print preview 1"}));
+}
+
 TEST_F(ShellFixture, ChoosingALanguageStoresItForTheNextStart)
 {
     std::filesystem::create_directories(dir.path() / "langues" / "English");
