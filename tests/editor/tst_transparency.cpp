@@ -145,6 +145,7 @@ void TestTransparency::bakeAllSkipsWhatIsNotTransparentAndToldOnceOfAnUnwritable
             p.button(n).kind = "code";
             p.button(n).transparent = transparent;
             p.button(n).normalImage = keyedPicture(dir + "o" + std::to_string(n) + ".png", 10, 10);
+            p.button(n).hoverImage = p.button(n).pressedImage = p.button(n).normalImage;
         }
     });
     // The third button's one picture cannot be written: a folder holds its name.

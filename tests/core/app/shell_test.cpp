@@ -239,8 +239,7 @@ TEST_F(ShellFixture, CommandsReachTheirFlows)
     // Commands of later parts, and "En ecran de veille", do nothing at all.
     const auto logBefore = view.log;
     document.calls.clear();
-    for (CommandId id : {CommandId::PrintToBmp, CommandId::PrintToClipboard, CommandId::PrintToPaper,
-                         CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
+    for (CommandId id : {CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
                          CommandId::CompileScreenSaver, CommandId::CompileHtml, CommandId::About})
         shell->run(id);  // no build commands given: the build ones do nothing either
     EXPECT_TRUE(document.calls.empty());

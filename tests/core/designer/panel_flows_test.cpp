@@ -364,7 +364,7 @@ TEST(ButtonTransparency, QuickPreviewBakesOnlyATransparentCurrentButton)
     f.element.transparencyTicked(true);
     f.element.quickPreview();
     EXPECT_EQ(baker.baked, (std::vector<int>{n}));
-    f.designer.select(0);
+    f.selection.currentButton = -1;
     f.element.quickPreview();
     EXPECT_EQ(baker.baked, (std::vector<int>{n}));
 }
