@@ -24,6 +24,9 @@ int main(int argc, char** argv)
     }
     // Image reading (JPEG, GIF) comes from Qt's plug-ins; text boxes need
     // fonts, which need a Gui application, drawn off screen: no display.
+    // Qt's own notes about the session (no runtime folder, no window
+    // system) are no business of the user's: only our messages are shown.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     char platformOption[] = "-platform";
     char offscreen[] = "offscreen";
     std::vector<char*> args{argv[0], platformOption, offscreen};
