@@ -132,6 +132,8 @@ void PictureTest::bmpWriteFailureLeavesNoFileUnderTheName()
     QVERIFY(QDir().mkpath(taken));
     QVERIFY(saveBmp(filled(2, 2, Qt::red), taken));
     QVERIFY(QFileInfo(taken).isDir());
+    // Nor is anything left beside it.
+    QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden), QStringList());
 }
 
 void PictureTest::bakeWritesThreeFilesPressedHoverNormal()
