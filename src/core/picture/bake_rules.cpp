@@ -1,7 +1,8 @@
 #include "core/picture/bake_rules.h"
 
+#include <cmath>
+
 #include "model/menu_data_layout.h"
-#include "text/numbers.h"
 
 namespace qor {
 
@@ -9,7 +10,9 @@ int toPixels(double twips, double twipsPerPixel)
 {
     if (twipsPerPixel <= 0)
         return 0;
-    return int(roundHalfEven(twips / twipsPerPixel));
+    // Halves away from zero, as the worksheet has always placed its windows
+    // and elements.
+    return int(std::lround(twips / twipsPerPixel));
 }
 
 std::string bakedImagePath(const std::string& imagePath)
@@ -25,7 +28,9 @@ bool isBaked(const MenuButton& button)
 std::vector<int> buttonsToBake(const MenuProject& project)
 {
     std::vector<int> out;
-    for (int n = 1; n < project.buttonElementCount() && n <= MenuProject::kLastButtonSlot; ++n)
+    // Every slot, as compilation walks them: a slot past the last element is
+    // empty and so never baked.
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n)
         if (isBaked(project.button(n)))
             out.push_back(n);
     return out;

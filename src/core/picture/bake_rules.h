@@ -19,7 +19,7 @@ struct PixelRect {
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
-// Twips to whole pixels on one axis, ties to even.
+// Twips to whole pixels on one axis, halves away from zero.
 int toPixels(double twips, double twipsPerPixel);
 
 // The file a baked image is written to: the source path and "_transp.bmp".

@@ -6,11 +6,11 @@
 namespace qor {
 namespace {
 
-TEST(BakeRules, TwipsRoundToWholePixelsTiesToEven)
+TEST(BakeRules, TwipsRoundToWholePixelsHalvesAwayFromZero)
 {
     struct Case { double twips, ratio; int pixels; };
     const Case cases[] = {
-        {1500, 15, 100}, {22.5, 15, 2}, {37.5, 15, 2}, {52.5, 15, 4}, {1000, 12, 83}, {-22.5, 15, -2}, {300, 0, 0},
+        {1500, 15, 100}, {22.5, 15, 2}, {37.5, 15, 3}, {52.5, 15, 4}, {1000, 12, 83}, {-37.5, 15, -3}, {300, 0, 0},
     };
     for (const Case& c : cases)
         EXPECT_EQ(toPixels(c.twips, c.ratio), c.pixels) << c.twips << " / " << c.ratio;
@@ -83,12 +83,12 @@ TEST(BakeRules, PicturesAreBakedPressedHoverNormalAndEmptyOnesAreLeftOut)
 TEST(BakeRules, AButtonStandsAtItsCornerInPixels)
 {
     MenuButton b;
-    b.left = 1507.5f;
+    b.left = 1492.5f;
     b.top = 750;
     ScreenMetrics screen;
     screen.twipsPerPixelX = 15;
     screen.twipsPerPixelY = 12;
-    EXPECT_EQ(buttonRect(b, 200, 60, screen), (PixelRect{100, 62, 200, 60}));
+    EXPECT_EQ(buttonRect(b, 200, 60, screen), (PixelRect{100, 63, 200, 60}));
     MenuProject project;
     project.width = 12000;
     project.height = 9000;
