@@ -29,6 +29,7 @@
 #include "model/project_writer.h"
 #include "text/line_file.h"
 
+#include "bench_editor.h"
 #include "qt_benchmarks.h"
 #include "silent_dialogs.h"
 
@@ -96,33 +97,10 @@ BigProject& bigProject()
 }
 
 // One editor, started once, with the Qt ports in folders of its own.
-struct EditorRun {
-    QTemporaryDir root;
-    SilentDialogs dialogs;
-    QtSettingsStore settings{root.filePath(QStringLiteral("settings"))};
-    QtDesktop desktop;
-    QtScreen screen;
-    DesktopFileTypeRegistry fileTypes{root.filePath(QStringLiteral("data"))};
-    MissingQmbConverter qmb;
-    EditorApplication editor{EditorPorts{dialogs, settings, desktop, screen, fileTypes, qmb}};
-    bool running = false;
-
-    EditorRun()
-    {
-        fileTypes.startProgram = [](const QString&, const QStringList&) {};
-        QDir().mkpath(root.filePath(QStringLiteral("program")));
-        StartupInputs in;
-        in.executablePath = root.filePath(QStringLiteral("program/qor")).toStdString();
-        in.facts = {"12:00:00", "23/11/2026"};
-        running = editor.start(in) == StartOutcome::Running;
-        QCoreApplication::processEvents();
-    }
-
+struct EditorRun : qor::bench::BenchEditor<QtScreen> {
     bool open(const std::string& path)
     {
-        editor.core().document().openPath(path);
-        QCoreApplication::processEvents();
-        return dialogs.asked == 0 && editor.core().designer().entries().size() == 1 + kButtons + kTexts;
+        return openPath(path) && editor.core().designer().entries().size() == 1 + kButtons + kTexts;
     }
 };
 

@@ -76,6 +76,7 @@ struct NullShellView : ShellView {
     void showLanguages(const std::vector<std::string>&, int) override {}
     void openAppearancePanel() override {}
     void openCreationWizard() override {}
+    void openPrintPreview(int) override {}
 };
 struct NullDocumentView : DocumentView {
     void showFileInfo(const FileInfo&, const AuthorFields&) override {}

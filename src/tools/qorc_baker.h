@@ -1,27 +1,36 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/ports/button_baker.h"
+#include "core/ports/dialogs.h"
 #include "model/menu_project.h"
 
 namespace qor {
 
-// Bakes the "_transp.bmp" images of transparent buttons without a screen:
-// each image is laid over what the worksheet shows under the button (the
-// background colour and the background picture stretched to the window),
-// its key colour left out, and saved as a 24-bit BMP beside the source.
-// Elements that overlap the button are not drawn under it.
+// Bakes the "_transp.bmp" images of transparent buttons without a screen,
+// on the worksheet drawn from the project (see picture/worksheet_scene.h).
+// A file that cannot be written is told once through the dialogs and
+// remembered, so that the program can end with a failure.
 class HeadlessBaker final : public ButtonBaker {
 public:
-    explicit HeadlessBaker(const MenuProject& project, double twipsPerPixel = 15)
-        : project_(project), twipsPerPixel_(twipsPerPixel)
+    HeadlessBaker(const MenuProject& project, Dialogs& dialogs, double twipsPerPixel = 15)
+        : project_(project), dialogs_(dialogs), twipsPerPixel_(twipsPerPixel)
     {
     }
 
     void bakeAllButtons() override;
+    void bakeButton(int number) override;
+    bool failed() const { return failed_; }
 
 private:
+    void report(const std::optional<std::string>& unwritable);
+
     const MenuProject& project_;
+    Dialogs& dialogs_;
     double twipsPerPixel_;
+    bool failed_ = false;
 };
 
 }  // namespace qor

@@ -1,6 +1,6 @@
 # Reads every #include line under a source tree and fails on one that points
 # up or sideways between the libraries:
-#   text <- model <- core <- editor;  text <- script;
+#   text <- model <- core <- picture <- editor;  text <- script;
 #   model + script <- player/core <- player front-ends;  tools use the libraries.
 # Also: inside core and inside the editor only app/ includes app/ (the
 # application wires the rest, never the other way round), and the standard
@@ -19,11 +19,12 @@ set(uses_text "")
 set(uses_model text)
 set(uses_script text)
 set(uses_core model script text)
-set(uses_editor core model script text)
+set(uses_picture core model text)
+set(uses_editor picture core model script text)
 set(uses_player/core model script text)
 set(uses_player/qt player/core model script text)
 set(uses_player/win32 player/core model script text)
-set(uses_tools core player/core model script text)
+set(uses_tools picture core player/core model script text)
 set(qt_free text model script core player/core player/win32)
 
 # The library a path (relative to SRC, or an include) belongs to; "" for none.
@@ -31,7 +32,7 @@ function(library_of path out)
   set(lib "")
   if(path MATCHES "^(player/[^/]+)/")
     set(lib ${CMAKE_MATCH_1})
-  elseif(path MATCHES "^(text|model|script|core|editor|tools)/")
+  elseif(path MATCHES "^(text|model|script|core|picture|editor|tools)/")
     set(lib ${CMAKE_MATCH_1})
   endif()
   set(${out} "${lib}" PARENT_SCOPE)

@@ -43,6 +43,7 @@ public:
         return {};
     }
     void bakeAllButtons() override { events.push_back("bake"); }
+    void bakeButton(int number) override { events.push_back("bake " + std::to_string(number)); }
 };
 
 // Records what a compilation showed on its dialog.

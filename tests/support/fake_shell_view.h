@@ -84,6 +84,7 @@ public:
     }
     void openAppearancePanel() override { ++appearancePanelOpenings; }
     void openCreationWizard() override { ++wizardOpenings; log.push_back("open wizard"); }
+    void openPrintPreview(int entry) override { log.push_back("print preview " + std::to_string(entry)); }
 };
 
 inline std::string FakeShellView::name(WindowId w)

@@ -160,10 +160,10 @@ void Shell::run(CommandId command, int position)
     case C::CompileHtml: runBuild(command); break;
     // "En ecran de veille" never does anything.
     case C::CompileScreenSaver: break;
-    // Printing and the about window come with their own parts.
-    case C::PrintToBmp:
-    case C::PrintToClipboard:
-    case C::PrintToPaper:
+    case C::PrintToBmp: view_.openPrintPreview(0); break;
+    case C::PrintToClipboard: view_.openPrintPreview(1); break;
+    case C::PrintToPaper: view_.openPrintPreview(2); break;
+    // The about window comes with its own part.
     case C::About:
     default:
         break;

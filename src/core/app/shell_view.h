@@ -79,6 +79,8 @@ public:
     // Panels that later parts fill in.
     virtual void openAppearancePanel() = 0;
     virtual void openCreationWizard() = 0;
+    // The menu picture's preview, opened by the "Imprimer" entry of that index.
+    virtual void openPrintPreview(int entry) = 0;
 };
 
 }  // namespace qor

@@ -1,6 +1,7 @@
 #include "core/build/compile_request.h"
 
 #include "core/build/program_files.h"
+#include "core/picture/bake_rules.h"
 #include "text/cp1252.h"
 #include "text/text_helpers.h"
 #include "text/utf8.h"
@@ -64,12 +65,7 @@ bool fitsCp1252(const std::string& text)
 
 bool needsBaking(const MenuProject& project)
 {
-    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
-        const MenuButton& b = project.button(n);
-        if (b.kind != button_kind::deleted && b.transparent && !b.normalImage.empty())
-            return true;
-    }
-    return false;
+    return !buttonsToBake(project).empty();
 }
 
 std::optional<std::string> unwritableFileName(const MenuProject& project)

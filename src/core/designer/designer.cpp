@@ -57,7 +57,8 @@ Designer::Designer(MenuProject& project, Selection& selection, DesignerPorts por
       entries_{std::string(kWorksheetEntry)},
       worksheet_(ctx_, *this),
       windowPanel_(ctx_, *this),
-      elementPanel_(ctx_, *this)
+      elementPanel_(ctx_, *this),
+      outline_(project, ports.dialogs)
 {
 }
 
@@ -138,9 +139,9 @@ void Designer::runToolbox(ToolboxCommand command)
     case ToolboxCommand::Quit: createButton(button_kind::quit); break;
     case ToolboxCommand::CodeScript: createButton(button_kind::code); break;
     case ToolboxCommand::CreateText: createText(); break;
-    // The shape editor and the window transparency menu arrive later.
-    case ToolboxCommand::ShapeEditor:
-    case ToolboxCommand::Transparency: break;
+    case ToolboxCommand::Transparency: outline_.popUp(); break;
+    // The shape editor arrives later.
+    case ToolboxCommand::ShapeEditor: break;
     }
 }
 

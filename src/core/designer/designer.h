@@ -9,6 +9,7 @@
 #include "core/designer/element_panel_flows.h"
 #include "core/designer/window_panel_flows.h"
 #include "core/designer/worksheet_flows.h"
+#include "core/picture/window_transparency.h"
 
 namespace qor {
 
@@ -32,6 +33,8 @@ public:
     WorksheetFlows& worksheet() { return worksheet_; }
     WindowPanelFlows& windowPanel() { return windowPanel_; }
     ElementPanelFlows& elementPanel() { return elementPanel_; }
+    // The toolbox's "Transparence" pop-up (the menu window's outline image).
+    WindowTransparencyFlows& outline() { return outline_; }
 
     // The project hooks: the views' share of a reset and of a load.
     void resetViews() override;
@@ -47,8 +50,8 @@ public:
     // panel follow the project.
     void projectReplaced();
 
-    // The one dispatch point of the toolbox. The shape editor and the
-    // window transparency menu come later: they do nothing yet.
+    // The one dispatch point of the toolbox. The shape editor comes later:
+    // it does nothing yet.
     void runToolbox(ToolboxCommand command);
 
     // Creates a button of kind ("code", "vidéo", "quitter") and asks for
@@ -90,6 +93,7 @@ private:
     WorksheetFlows worksheet_;
     WindowPanelFlows windowPanel_;
     ElementPanelFlows elementPanel_;
+    WindowTransparencyFlows outline_;
 };
 
 }  // namespace qor

@@ -5,6 +5,7 @@
 
 #include "core/designer/designer_view.h"
 #include "core/designer/selection.h"
+#include "core/ports/button_baker.h"
 #include "core/ports/dialogs.h"
 #include "core/ports/screen.h"
 #include "core/project/project_hooks.h"
@@ -38,6 +39,8 @@ struct DesignerContext {
     ButtonFields buttonFields;
     // Set while a project is read: the startup list does not react then.
     bool loading = false;
+    // Bakes transparent buttons ("Aperçu rapide"); none until the worksheet can.
+    ButtonBaker* baker = nullptr;
 
     DesignerView& v() { return *view; }
     ScreenMetrics screen() { return ports.screen.metrics(); }

@@ -112,6 +112,34 @@ void ElementPanelFlows::showMediaHelp()
     ctx_.ports.dialogs.message(mediaFileHelpMessage());
 }
 
+void ElementPanelFlows::transparencyTicked(bool ticked)
+{
+    ctx_.buttonFields.transparent = ticked;
+    const int n = ctx_.selection.currentButton;
+    if (!isButtonNumber(n))
+        return;
+    MenuButton& b = ctx_.project.button(n);
+    b.transparent = ticked;
+    b.transparentColor = ctx_.buttonFields.transparentColor;
+}
+
+void ElementPanelFlows::chooseTransparentColour()
+{
+    const auto chosen = ctx_.ports.dialogs.pickColour(ctx_.buttonFields.transparentColor);
+    if (!chosen)
+        return;
+    ctx_.buttonFields.transparentColor = *chosen;
+    showFields();
+    transparencyTicked(ctx_.buttonFields.transparent);
+}
+
+void ElementPanelFlows::quickPreview()
+{
+    const int n = ctx_.selection.currentButton;
+    if (isButtonNumber(n) && ctx_.project.button(n).transparent && ctx_.baker)
+        ctx_.baker->bakeButton(n);
+}
+
 void ElementPanelFlows::showTransparencyInfo()
 {
     ctx_.ports.dialogs.message(transparencyInfoMessage());

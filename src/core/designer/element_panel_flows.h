@@ -36,6 +36,13 @@ public:
     void locateMedia(MediaLocation where);
     void showMediaHelp();
     void showTransparencyInfo();
+    // "Activée" clicked: the box and the swatch's colour go to the button.
+    void transparencyTicked(bool ticked);
+    // The "Couleur :" swatch: the colour dialog; a colour chosen is shown
+    // and stored with the box, as a click on "Activée" would.
+    void chooseTransparentColour();
+    // "Aperçu rapide": bakes the current button when it is transparent.
+    void quickPreview();
 
     // "Modifier la position" / "(px)" of the button or of the text box.
     void movePosition(bool text, bool pixels);

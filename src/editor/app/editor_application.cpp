@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "core/app/command_line.h"
+#include "core/picture/print_preview_rules.h"
 #include "core/project/file_info.h"
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
@@ -12,17 +13,21 @@
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/qt_text.h"
 #include "editor/ui/splash_window.h"
+#include "text/error.h"
 
 namespace qor {
 
 EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
-    : windows_(ports.screen.metrics(), hooks),
+    : dialogs_(ports.dialogs),
+      hooks_(hooks),
+      windows_(ports.screen.metrics(), hooks),
       shellView_(windows_),
       projectViews_(windows_),
       documentView_(windows_),
       buildView_(windows_, hooks),
+      baker_(windows_, ports.dialogs),
       core_(Platform{ports.dialogs, ports.settings, ports.desktop, ports.screen, ports.fileTypes,
-                     ports.qmbConverter, shellView_, projectViews_, documentView_, &buildView_}),
+                     ports.qmbConverter, shellView_, projectViews_, documentView_, &buildView_, nullptr, &baker_}),
       scriptEditorView_(windows_, core_.scriptEditor()),
       wizard_({core_.state().wizardOpen, ports.dialogs, ports.desktop, core_.document(), ports.screen.metrics(),
                core_.state().programFolder, hooks}),
@@ -31,6 +36,8 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
     core_.scriptEditor().setView(&scriptEditorView_);
     buildView_.setBuild(core_.build());
     core_.designer().setView(&designerView_);
+    baker_.attach(core_.designer());
+    core_.designer().context().baker = &baker_;
     documentView_.afterProjectReplaced = [this] { core_.designer().projectReplaced(); };
     // The wizard opens over the main window, and takes over from the splash.
     shellView_.creationWizardRequested = [this] {
@@ -38,9 +45,15 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
     };
     QObject::connect(&windows_.splash(), &SplashWindow::closed, [this] { wizard_.handOverAsModal(); });
     shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
+    shellView_.printPreviewRequested = [this](int entry) { openPrintPreview(entry); };
     documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
         applyAuthorFields(core_.project(), fields);
     };
+}
+
+EditorApplication::~EditorApplication()
+{
+    delete printPreview_.data();
 }
 
 StartOutcome EditorApplication::start(const StartupInputs& inputs)
@@ -82,6 +95,7 @@ void EditorApplication::connectWindow(WindowId window)
 void EditorApplication::connectToolbox()
 {
     ToolboxWindow& toolbox = windows_.toolbox();
+    core_.designer().outline().setView(&toolbox);
     for (int i = 0; i < ToolboxWindow::kCommandCount; ++i) {
         QPushButton* command = toolbox.command(i);
         command->setEnabled(true);
@@ -115,6 +129,26 @@ void EditorApplication::connectWorksheet()
         default: break;
         }
     });
+}
+
+void EditorApplication::openPrintPreview(int entry)
+{
+    if (printPreview_)
+        delete printPreview_.data();
+    if (!windows_.isLoaded(WindowId::Worksheet))
+        return;
+    baker_.bakeAllButtons();
+    QCoreApplication::processEvents();
+    WorksheetWindow& sheet = windows_.worksheet();
+    // The worksheet's inner area, drawn off screen: what another window
+    // covers is captured all the same.
+    const QImage capture = sheet.grab().toImage();
+    const QString file = toQt(core_.state().programFolder) + toQt(print_preview::kCaptureFileName);
+    printPreview_ = new PrintPreviewWindow(dialogs_, windows_.screen(), file, &sheet, hooks_);
+    if (!printPreview_->showCapture(capture, entry)) {
+        dialogs_.message(print_preview::saveFailedMessage(err::PathFileAccess, fromQt(file)));
+        delete printPreview_.data();
+    }
 }
 
 StartupInputs startupInputs(int argc, const char* const* argv, const QDateTime& now)

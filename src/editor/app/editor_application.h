@@ -1,17 +1,20 @@
 #pragma once
 
 #include <QDateTime>
+#include <QPointer>
 
 #include <functional>
 
 #include "core/app/application.h"
 #include "editor/app/editor_build_view.h"
+#include "editor/app/editor_button_baker.h"
 #include "editor/app/editor_designer_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
+#include "editor/ui/print_preview_window.h"
 #include "editor/wizard/editor_wizard.h"
 
 namespace qor {
@@ -37,6 +40,8 @@ public:
     explicit EditorApplication(EditorPorts ports, WindowHooks& hooks = WindowHooks::none());
     EditorApplication(const EditorApplication&) = delete;
     EditorApplication& operator=(const EditorApplication&) = delete;
+    // An open preview closes with the editor (its capture file goes).
+    ~EditorApplication();
 
     // The start-up routine: Running when the windows are shown and the
     // event loop should run, Quit when it is over already.
@@ -48,17 +53,27 @@ public:
     ProjectViews& projectViews() { return projectViews_; }
     EditorWizard& wizard() { return wizard_; }
     EditorBuildView& buildView() { return buildView_; }
+    EditorButtonBaker& baker() { return baker_; }
+    // The menu picture's preview for the "Imprimer" entry of that index: the
+    // buttons baked, the worksheet captured, a fresh window each time.
+    void openPrintPreview(int entry);
+    PrintPreviewWindow* printPreview() const { return printPreview_; }
 
 private:
     void connectWindow(WindowId window);
     void connectWorksheet();
     void connectToolbox();
 
+    Dialogs& dialogs_;
+    WindowHooks& hooks_;
+    QPointer<PrintPreviewWindow> printPreview_;
+
     EditorWindows windows_;
     EditorShellView shellView_;
     ProjectViews projectViews_;
     EditorDocumentView documentView_;
     EditorBuildView buildView_;
+    EditorButtonBaker baker_;
     Application core_;
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;

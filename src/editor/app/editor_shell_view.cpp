@@ -197,6 +197,12 @@ void EditorShellView::showLanguages(const std::vector<std::string>& captions, in
 // opens nothing.
 void EditorShellView::openAppearancePanel() {}
 
+void EditorShellView::openPrintPreview(int entry)
+{
+    if (printPreviewRequested)
+        printPreviewRequested(entry);
+}
+
 void EditorShellView::openCreationWizard()
 {
     if (creationWizardRequested)

@@ -23,6 +23,7 @@ public:
     std::function<void()> endEventLoop;
     // Opens a fresh creation wizard.
     std::function<void()> creationWizardRequested;
+    std::function<void(int)> printPreviewRequested;
 
     void showSplash() override;
     void hideSplash() override;
@@ -51,6 +52,7 @@ public:
 
     void openAppearancePanel() override;
     void openCreationWizard() override;
+    void openPrintPreview(int entry) override;
 
     bool precisePointer() const { return precisePointer_; }
 

@@ -118,6 +118,9 @@ void ButtonPanel::connectFlows(ElementPanelFlows& f)
     onClick(command(QStringLiteral("Command_position")), [&f] { f.movePosition(false, false); });
     onClick(command(QStringLiteral("Command_position_px")), [&f] { f.movePosition(false, true); });
     onClick(command(QStringLiteral("Command_infos_transparence")), [&f] { f.showTransparencyInfo(); });
+    onClick(command(QStringLiteral("Command_apercu")), [&f] { f.quickPreview(); });
+    onClick(transparentColour_, [&f] { f.chooseTransparentColour(); });
+    connect(transparent_, &QCheckBox::clicked, this, [&f](bool ticked) { f.transparencyTicked(ticked); });
     onClick(command(QStringLiteral("Command_code")), [&f] { f.editButtonScript(); });
     onClick(command(QStringLiteral("Command_aide_media")), [&f] { f.showMediaHelp(); });
     onClick(command(QStringLiteral("Command_media")), [this, &f] { popUpMediaMenu(f); });

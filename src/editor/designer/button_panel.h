@@ -13,8 +13,8 @@ namespace qor {
 
 // Panel 1 of the properties panel, a button's properties, with its two
 // sub-panels in its own area: the media sub-panel (panel 2) and the code
-// sub-panel (panel 3). The transparency frame's controls stand here; what
-// they do comes with the transparency of buttons.
+// sub-panel (panel 3), and the frame "Transparence            " whose box,
+// swatch and "Aperçu rapide" bake the button's pictures.
 class ButtonPanel : public QWidget {
     Q_OBJECT
 public:

@@ -1,6 +1,10 @@
 #include "editor/designer/toolbox_window.h"
 
+#include <QEvent>
 #include <QGroupBox>
+#include <QImageReader>
+#include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -42,7 +46,64 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     // and wide enough for the window system to show its title in full.
     setFixedSize(std::max(sizeHint().width(), twipsToPixels(2400, screen.twipsPerPixelX)),
                  sizeHint().height());
+    outline_ = named(new QLabel(this), "Picture1");
+    outline_->hide();
+    outline_->installEventFilter(this);
     runLoadHooks(*this, hooks);
+}
+
+std::optional<OutlineCommand> ToolboxWindow::popUpOutlineMenu()
+{
+    QPushButton* at = commands_[kCommandCount - 1];
+    QMenu menu(this);
+    std::optional<OutlineCommand> chosen;
+    for (const OutlineEntry& e : kOutlineEntries) {
+        if (e.separatorBefore)
+            menu.addSeparator();
+        const OutlineCommand command = e.command;
+        menu.addAction(QString::fromUtf8(e.caption.data(), qsizetype(e.caption.size())), this,
+                       [&chosen, command] { chosen = command; });
+    }
+    menu.exec(at->mapToGlobal(QPoint(0, at->height())));
+    return chosen;
+}
+
+bool ToolboxWindow::showOutlineImage(const std::string& path)
+{
+    QImageReader reader(QString::fromStdString(path));
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        return false;
+    if (outline_->isHidden())
+        groupsSize_ = size();
+    for (QGroupBox* group : findChildren<QGroupBox*>(Qt::FindDirectChildrenOnly))
+        group->hide();
+    outline_->setPixmap(QPixmap::fromImage(picture));
+    outline_->setGeometry(QRect(QPoint(0, 0), picture.size()));
+    outline_->show();
+    // The inner area takes the picture's size; the frame stays as it is.
+    setFixedSize(picture.size());
+    return true;
+}
+
+void ToolboxWindow::hideOutlineImage()
+{
+    if (outline_->isHidden())
+        return;
+    outline_->hide();
+    outline_->clear();
+    for (QGroupBox* group : findChildren<QGroupBox*>(Qt::FindDirectChildrenOnly))
+        group->show();
+    setFixedSize(groupsSize_);
+}
+
+bool ToolboxWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == outline_ && event->type() == QEvent::MouseButtonRelease) {
+        hideOutlineImage();
+        return true;
+    }
+    return ToolWindow::eventFilter(watched, event);
 }
 
 }  // namespace qor

@@ -1,6 +1,6 @@
 #include "editor/platform/twips.h"
 
-#include <cmath>
+#include "core/picture/bake_rules.h"
 
 namespace qor {
 
@@ -22,7 +22,9 @@ ScreenMetrics screenMetricsOf(QSize pixels, double logicalDpiX, double logicalDp
 
 int twipsToPixels(double twips, double twipsPerPixel)
 {
-    return int(std::lround(twips / twipsPerPixel));
+    // One rounding for the worksheet and for baking, so that a baked picture
+    // lines up with what the worksheet shows.
+    return toPixels(twips, twipsPerPixel);
 }
 
 QSize twipsToPixels(double widthTwips, double heightTwips, const ScreenMetrics& screen)

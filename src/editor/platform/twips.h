@@ -16,7 +16,7 @@ double twipsPerPixel(double logicalDpi);
 // The metrics of a screen of pixels logical pixels at the given logical DPI.
 ScreenMetrics screenMetricsOf(QSize pixels, double logicalDpiX, double logicalDpiY);
 
-// Twips to whole pixels, rounded to the nearest pixel.
+// Twips to whole pixels, rounded to the nearest pixel (halves away from zero).
 int twipsToPixels(double twips, double twipsPerPixel);
 QSize twipsToPixels(double widthTwips, double heightTwips, const ScreenMetrics& screen);
 

@@ -239,8 +239,7 @@ TEST_F(ShellFixture, CommandsReachTheirFlows)
     // Commands of later parts, and "En ecran de veille", do nothing at all.
     const auto logBefore = view.log;
     document.calls.clear();
-    for (CommandId id : {CommandId::PrintToBmp, CommandId::PrintToClipboard, CommandId::PrintToPaper,
-                         CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
+    for (CommandId id : {CommandId::TestProject, CommandId::CompileAutorun, CommandId::CompileExecutable,
                          CommandId::CompileScreenSaver, CommandId::CompileHtml, CommandId::About})
         shell->run(id);  // no build commands given: the build ones do nothing either
     EXPECT_TRUE(document.calls.empty());
@@ -278,6 +277,15 @@ TEST_F(ShellFixture, BuildCommandsGoToTheBuild)
                          CommandId::CompileScreenSaver, CommandId::CompileHtml})
         shell->run(id);
     EXPECT_EQ(build.calls, (std::vector<std::string>{"test run", "compile dialog", "executable", "html"}));
+}
+
+TEST_F(ShellFixture, EachPrintEntryOpensThePreviewWithItsIndex)
+{
+    ASSERT_EQ(start(), StartOutcome::Running);
+    view.log.clear();
+    for (CommandId id : {CommandId::PrintToPaper, CommandId::PrintToBmp, CommandId::PrintToClipboard})
+        shell->run(id);
+    EXPECT_EQ(view.log, (std::vector<std::string>{"print preview 2", "print preview 0", "print preview 1"}));
 }
 
 TEST_F(ShellFixture, ChoosingALanguageStoresItForTheNextStart)

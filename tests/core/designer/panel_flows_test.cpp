@@ -322,3 +322,52 @@ TEST(ElementPanel, TextColoursFontSizeAndSettings)
 
 }  // namespace
 }  // namespace qor
+
+namespace qor {
+namespace {
+
+// Records which buttons were baked.
+class RecordingBaker : public ButtonBaker {
+public:
+    std::vector<int> baked;
+    void bakeAllButtons() override { baked.push_back(0); }
+    void bakeButton(int number) override { baked.push_back(number); }
+};
+
+TEST(ButtonTransparency, TheBoxStoresTheSwatchColourAndTheSwatchStoresTheBox)
+{
+    test::DesignerFixture f;
+    const int n = f.button("code");
+    f.element.transparencyTicked(true);
+    EXPECT_TRUE(f.project.button(n).transparent);
+    EXPECT_EQ(f.project.button(n).transparentColor, 0);
+    f.dialogs.colourAnswers = {std::nullopt, 0x00FF00FF};
+    f.element.chooseTransparentColour();
+    EXPECT_EQ(f.project.button(n).transparentColor, 0);
+    f.element.chooseTransparentColour();
+    EXPECT_EQ(f.project.button(n).transparentColor, 0x00FF00FF);
+    EXPECT_TRUE(f.project.button(n).transparent);
+    EXPECT_EQ(f.dialogs.colourRequests, (std::vector<Colour>{0, 0}));
+    f.element.transparencyTicked(false);
+    EXPECT_FALSE(f.project.button(n).transparent);
+    EXPECT_EQ(f.project.button(n).transparentColor, 0x00FF00FF);
+}
+
+TEST(ButtonTransparency, QuickPreviewBakesOnlyATransparentCurrentButton)
+{
+    test::DesignerFixture f;
+    RecordingBaker baker;
+    f.designer.context().baker = &baker;
+    const int n = f.button("code");
+    f.element.quickPreview();
+    EXPECT_TRUE(baker.baked.empty());
+    f.element.transparencyTicked(true);
+    f.element.quickPreview();
+    EXPECT_EQ(baker.baked, (std::vector<int>{n}));
+    f.selection.currentButton = -1;
+    f.element.quickPreview();
+    EXPECT_EQ(baker.baked, (std::vector<int>{n}));
+}
+
+}  // namespace
+}  // namespace qor

@@ -1,4 +1,4 @@
-#include "editor/platform/colours.h"
+#include "picture/colours.h"
 
 namespace qor {
 
