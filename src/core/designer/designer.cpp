@@ -138,8 +138,11 @@ void Designer::runToolbox(ToolboxCommand command)
     case ToolboxCommand::Quit: createButton(button_kind::quit); break;
     case ToolboxCommand::CodeScript: createButton(button_kind::code); break;
     case ToolboxCommand::CreateText: createText(); break;
-    // The shape editor and the window transparency menu arrive later.
     case ToolboxCommand::ShapeEditor:
+        if (shape_)
+            shape_->open();
+        break;
+    // The window transparency menu arrives later.
     case ToolboxCommand::Transparency: break;
     }
 }

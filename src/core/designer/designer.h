@@ -9,6 +9,7 @@
 #include "core/designer/element_panel_flows.h"
 #include "core/designer/window_panel_flows.h"
 #include "core/designer/worksheet_flows.h"
+#include "core/shape/shape_flows.h"
 
 namespace qor {
 
@@ -47,9 +48,11 @@ public:
     // panel follow the project.
     void projectReplaced();
 
-    // The one dispatch point of the toolbox. The shape editor and the
-    // window transparency menu come later: they do nothing yet.
+    // The one dispatch point of the toolbox. The window transparency menu
+    // comes later: it does nothing yet.
     void runToolbox(ToolboxCommand command);
+    // Where "Editeur" goes; without it the command does nothing.
+    void setShapeEditor(ShapeFlows* shape) { shape_ = shape; }
 
     // Creates a button of kind ("code", "vidéo", "quitter") and asks for
     // its three images; refused past the 99th button.
@@ -90,6 +93,7 @@ private:
     WorksheetFlows worksheet_;
     WindowPanelFlows windowPanel_;
     ElementPanelFlows elementPanel_;
+    ShapeFlows* shape_ = nullptr;
 };
 
 }  // namespace qor
