@@ -9,6 +9,7 @@
 #include "editor/app/editor_designer_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
+#include "editor/app/editor_shape_view.h"
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
@@ -48,6 +49,7 @@ public:
     ProjectViews& projectViews() { return projectViews_; }
     EditorWizard& wizard() { return wizard_; }
     EditorBuildView& buildView() { return buildView_; }
+    EditorShapeView& shapeView() { return shapeView_; }
 
 private:
     void connectWindow(WindowId window);
@@ -63,6 +65,7 @@ private:
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;
     EditorDesignerView designerView_;
+    EditorShapeView shapeView_;
 };
 
 // What start-up needs from the platform: the executable's path, the
