@@ -12,6 +12,7 @@ struct Edge {
     double x0, y0, slope;
     int firstRow, lastRow;
     int winding;
+    double x = 0;   // where it crosses the current row's centre
 };
 
 struct Crossing {
@@ -35,13 +36,29 @@ std::vector<std::vector<Edge>> edgesByFirstRow(std::span<const PixelPoint> outli
         if (a.y > b.y)
             std::swap(a, b);
         Edge e{double(a.x), double(a.y), (double(b.x) - double(a.x)) / (double(b.y) - double(a.y)),
-               rowAtOrBelow(a.y), rowAtOrBelow(b.y) - 1, winding};
+               rowAtOrBelow(a.y), rowAtOrBelow(b.y) - 1, winding, 0};
         e.firstRow = std::max(e.firstRow, 0);
         e.lastRow = std::min(e.lastRow, height - 1);
         if (e.firstRow <= e.lastRow)
             rows[std::size_t(e.firstRow)].push_back(e);
     }
     return rows;
+}
+
+// The active edges sorted by their crossing. From one row to the next they
+// keep nearly the same order, so an insertion sort costs about one pass;
+// many edges starting together are sorted outright.
+void keepSortedByX(std::vector<Edge>& active, std::size_t fresh)
+{
+    constexpr std::size_t kManyFresh = 32;
+    auto byX = [](const Edge& a, const Edge& b) { return a.x < b.x; };
+    if (fresh > kManyFresh) {
+        std::sort(active.begin(), active.end(), byX);
+        return;
+    }
+    for (std::size_t i = 1; i < active.size(); ++i)
+        for (std::size_t j = i; j > 0 && active[j].x < active[j - 1].x; --j)
+            std::swap(active[j], active[j - 1]);
 }
 
 // Appends the runs of one row from its crossings, sorted by x.
@@ -84,11 +101,12 @@ std::vector<PixelRun> polygonRuns(std::span<const PixelPoint> outline, int width
         if (active.empty())
             continue;
         const double centre = row + 0.5;
+        for (Edge& e : active)
+            e.x = e.x0 + (centre - e.y0) * e.slope;
+        keepSortedByX(active, fresh.size());
         crossings.clear();
         for (const Edge& e : active)
-            crossings.push_back({e.x0 + (centre - e.y0) * e.slope, e.winding});
-        std::sort(crossings.begin(), crossings.end(),
-                  [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+            crossings.push_back({e.x, e.winding});
         appendRowRuns(runs, crossings, row, width);
     }
     return runs;
