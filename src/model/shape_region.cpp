@@ -46,19 +46,19 @@ std::vector<std::vector<Edge>> edgesByFirstRow(std::span<const PixelPoint> outli
 }
 
 // The active edges sorted by their crossing. From one row to the next they
-// keep nearly the same order, so an insertion sort costs about one pass;
-// many edges starting together are sorted outright.
+// keep nearly the same order, so an insertion sort costs about one pass.
+// Many edges starting together, or a row where many cross one another (a
+// hostile outline), are sorted outright, so no row costs more than that.
 void keepSortedByX(std::vector<Edge>& active, std::size_t fresh)
 {
     constexpr std::size_t kManyFresh = 32;
     auto byX = [](const Edge& a, const Edge& b) { return a.x < b.x; };
-    if (fresh > kManyFresh) {
-        std::sort(active.begin(), active.end(), byX);
-        return;
-    }
-    for (std::size_t i = 1; i < active.size(); ++i)
-        for (std::size_t j = i; j > 0 && active[j].x < active[j - 1].x; --j)
+    std::size_t budget = fresh > kManyFresh ? 0 : 4 * active.size() + 64;
+    for (std::size_t i = 1; i < active.size() && budget > 0; ++i)
+        for (std::size_t j = i; j > 0 && active[j].x < active[j - 1].x && budget > 0; --j, --budget)
             std::swap(active[j], active[j - 1]);
+    if (budget == 0)
+        std::sort(active.begin(), active.end(), byX);
 }
 
 // Appends the runs of one row from its crossings, sorted by x.

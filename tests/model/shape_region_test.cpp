@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 #include <vector>
@@ -65,6 +66,18 @@ TEST(ShapeRegion, SelfCrossingOverlapsStayFilled)
     Pixels expected = rect(0, 0, 5, 5);
     expected.merge(rect(3, 3, 8, 8));
     EXPECT_EQ(kept, expected);
+}
+
+TEST(ShapeRegion, APentagramKeepsItsCentreWhicheverWayItIsDrawn)
+{
+    // Each edge crosses two others: the centre is wound twice.
+    std::vector<PixelPoint> star{{50, 0}, {79, 90}, {2, 35}, {98, 35}, {21, 90}};
+    const Pixels clockwise = pixelsOf(polygonRuns(star, 100, 100));
+    EXPECT_TRUE(clockwise.contains({50, 50}));
+    EXPECT_TRUE(clockwise.contains({50, 5}));
+    EXPECT_FALSE(clockwise.contains({50, 95}));
+    std::reverse(star.begin(), star.end());
+    EXPECT_EQ(pixelsOf(polygonRuns(star, 100, 100)), clockwise);
 }
 
 TEST(ShapeRegion, RunsAreOrderedAndNeverTouchOnARow)
