@@ -9,6 +9,7 @@ Application::Application(Platform p)
       designer_(project_, selection_,
                 DesignerPorts{p.dialogs, p.screen, state_.phrases, p.projectViews, scriptEditor_,
                               state_.options.showHandles}),
+      shape_(project_, ShapePorts{p.dialogs, p.screen, state_.phrases}),
       // The QMB import is built after the routes to it; nothing reaches it
       // before the application is complete.
       routes_(recentFiles_, qmb_),
@@ -21,6 +22,7 @@ Application::Application(Platform p)
 {
     // The script editor's F5 runs the same test as the main window's command.
     scriptEditor_.setTestRun([this] { shell_.run(CommandId::TestProject); });
+    designer_.setShapeEditor(&shape_);
     if (p.buildView) {
         build_.emplace(project_,
                        BuildPorts{p.dialogs, p.files ? *p.files : localFiles_, p.baker ? *p.baker : noBaker_,

@@ -62,6 +62,7 @@ public:
     // Nothing when the platform gave no build view.
     BuildFlows* build() { return build_ ? &*build_ : nullptr; }
     Designer& designer() { return designer_; }
+    ShapeFlows& shapeEditor() { return shape_; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -84,6 +85,7 @@ private:
     ScriptEditorFlow scriptEditor_;
     // Stands between the project reader and the platform's views.
     Designer designer_;
+    ShapeFlows shape_;
     Routes routes_;
     ProjectServices services_;
     DocumentLifecycle lifecycle_;

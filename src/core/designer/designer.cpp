@@ -140,8 +140,10 @@ void Designer::runToolbox(ToolboxCommand command)
     case ToolboxCommand::CodeScript: createButton(button_kind::code); break;
     case ToolboxCommand::CreateText: createText(); break;
     case ToolboxCommand::Transparency: outline_.popUp(); break;
-    // The shape editor arrives later.
-    case ToolboxCommand::ShapeEditor: break;
+    case ToolboxCommand::ShapeEditor:
+        if (shape_)
+            shape_->open();
+        break;
     }
 }
 

@@ -10,6 +10,7 @@
 #include "core/designer/window_panel_flows.h"
 #include "core/designer/worksheet_flows.h"
 #include "core/picture/window_transparency.h"
+#include "core/shape/shape_flows.h"
 
 namespace qor {
 
@@ -50,9 +51,10 @@ public:
     // panel follow the project.
     void projectReplaced();
 
-    // The one dispatch point of the toolbox. The shape editor comes later:
-    // it does nothing yet.
+    // The one dispatch point of the toolbox.
     void runToolbox(ToolboxCommand command);
+    // Where "Editeur" goes; without it the command does nothing.
+    void setShapeEditor(ShapeFlows* shape) { shape_ = shape; }
 
     // Creates a button of kind ("code", "vidéo", "quitter") and asks for
     // its three images; refused past the 99th button.
@@ -94,6 +96,7 @@ private:
     WindowPanelFlows windowPanel_;
     ElementPanelFlows elementPanel_;
     WindowTransparencyFlows outline_;
+    ShapeFlows* shape_ = nullptr;
 };
 
 }  // namespace qor

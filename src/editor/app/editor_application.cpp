@@ -31,13 +31,15 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
       scriptEditorView_(windows_, core_.scriptEditor()),
       wizard_({core_.state().wizardOpen, ports.dialogs, ports.desktop, core_.document(), ports.screen.metrics(),
                core_.state().programFolder, hooks}),
-      designerView_(windows_, core_.project())
+      designerView_(windows_, core_.project()),
+      shapeView_(windows_, core_.shapeEditor(), hooks)
 {
     core_.scriptEditor().setView(&scriptEditorView_);
     buildView_.setBuild(core_.build());
     core_.designer().setView(&designerView_);
     baker_.attach(core_.designer());
     core_.designer().context().baker = &baker_;
+    core_.shapeEditor().setView(&shapeView_);
     documentView_.afterProjectReplaced = [this] { core_.designer().projectReplaced(); };
     // The wizard opens over the main window, and takes over from the splash.
     shellView_.creationWizardRequested = [this] {

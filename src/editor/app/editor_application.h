@@ -11,6 +11,7 @@
 #include "editor/app/editor_designer_view.h"
 #include "editor/app/editor_document_view.h"
 #include "editor/app/editor_script_editor_view.h"
+#include "editor/app/editor_shape_view.h"
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
@@ -58,6 +59,7 @@ public:
     // buttons baked, the worksheet captured, a fresh window each time.
     void openPrintPreview(int entry);
     PrintPreviewWindow* printPreview() const { return printPreview_; }
+    EditorShapeView& shapeView() { return shapeView_; }
 
 private:
     void connectWindow(WindowId window);
@@ -78,6 +80,7 @@ private:
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;
     EditorDesignerView designerView_;
+    EditorShapeView shapeView_;
 };
 
 // What start-up needs from the platform: the executable's path, the

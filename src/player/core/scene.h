@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "model/shape_region.h"
+
 namespace qor::player {
 
 // What the menu shows, as the scripts see it: positions and sizes in twips,
@@ -11,11 +13,7 @@ namespace qor::player {
 // paths ("" for none). A front-end draws it; scripts change it through the
 // run-time objects and the front-end is told which part changed.
 
-struct PixelPoint {
-    int x = 0;
-    int y = 0;
-    friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
-};
+using PixelPoint = qor::PixelPoint;
 
 // The pointer shapes a script can ask for, by their MousePointer numbers.
 enum class Cursor {

@@ -1,18 +1,21 @@
 #include "player/qt/window_mask.h"
 
 #include <QVector>
-#include <QPolygon>
 
 namespace qor::player {
 namespace {
 
-QRegion outlineRegion(const std::vector<PixelPoint>& outline)
+// The outline's pixels as the shape preview of the editor cuts them.
+QRegion outlineRegion(QSize size, const std::vector<PixelPoint>& outline)
 {
-    QPolygon polygon;
-    polygon.reserve(int(outline.size()));
-    for (const PixelPoint& p : outline)
-        polygon.append(QPoint(p.x, p.y));
-    return QRegion(polygon, Qt::WindingFill);
+    const std::vector<PixelRun> runs = polygonRuns(outline, size.width(), size.height());
+    QVector<QRect> rects;
+    rects.reserve(qsizetype(runs.size()));
+    for (const PixelRun& r : runs)
+        rects.append(QRect(r.x, r.y, r.width, 1));
+    QRegion region;
+    region.setRects(rects.constData(), int(rects.size()));
+    return region;
 }
 
 bool isCut(QRgb c)
@@ -54,7 +57,7 @@ QRegion windowMask(QSize size, const std::vector<PixelPoint>& outline, const QIm
     bool cut = false;
     if (!outline.empty()) {
         // Only what lies on the window matters to the window system.
-        region = outlineRegion(outline).intersected(QRect(QPoint(0, 0), size));
+        region = outlineRegion(size, outline);
         cut = true;
     }
     if (!transparency.isNull() && !size.isEmpty()) {
