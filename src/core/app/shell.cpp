@@ -75,6 +75,8 @@ StartOutcome Shell::start(const StartupInputs& inputs)
         if (w == WindowId::Main)
             mainWindow_.load(inputs.facts);
     }
+    // The options file read by the main window's load told the appearance.
+    applyAppearance(state_.appearance);
 
     WindowSizes sizes;
     sizes.toolbox = view_.windowSize(WindowId::Toolbox);
@@ -93,6 +95,12 @@ StartOutcome Shell::start(const StartupInputs& inputs)
         view_.showWindow(w);
     view_.hideSplash();
     return StartOutcome::Running;
+}
+
+void Shell::applyAppearance(const Appearance& appearance)
+{
+    for (WindowId w : kMainAppearanceOrder)
+        view_.applyAppearance(w, appearance);
 }
 
 void Shell::writeFirstRunFiles()
@@ -160,11 +168,11 @@ void Shell::run(CommandId command, int position)
     case C::CompileHtml: runBuild(command); break;
     // "En ecran de veille" never does anything.
     case C::CompileScreenSaver: break;
-    // Printing and the about window come with their own parts.
+    case C::About: view_.openAboutWindow(); break;
+    // Printing comes with its own part.
     case C::PrintToBmp:
     case C::PrintToClipboard:
     case C::PrintToPaper:
-    case C::About:
     default:
         break;
     }
