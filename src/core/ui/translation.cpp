@@ -3,11 +3,27 @@
 #include <filesystem>
 
 #include "core/ui/languages.h"
+#include "core/ui/windows.h"
 #include "core/ui/window_object.h"
 #include "text/cp1252.h"
 #include "text/line_file.h"
 
 namespace qor {
+
+namespace {
+
+// The splash and the print preview keep their French texts.
+constexpr WindowId kUntranslated[] = {WindowId::Splash, WindowId::PrintPreview};
+
+}  // namespace
+
+bool isTranslatedWindow(std::string_view name)
+{
+    for (WindowId id : kUntranslated)
+        if (windowName(id) == name)
+            return false;
+    return true;
+}
 
 Translator::Translator(std::string& language, Phrases& phrases, const std::string& programFolder)
     : language_(language), phrases_(phrases), programFolder_(programFolder), list_(new PhraseListObject)
@@ -17,7 +33,7 @@ Translator::Translator(std::string& language, Phrases& phrases, const std::strin
 
 std::optional<Message> Translator::translate(std::string_view windowName, std::unique_ptr<ControlNode> window)
 {
-    if (language_.empty())
+    if (language_.empty() || !isTranslatedWindow(windowName))
         return std::nullopt;
     // Nothing of an earlier window's script survives into this one.
     module_.reset();

@@ -55,6 +55,9 @@ private:
     script::Ref<PhraseListObject> list_;
 };
 
+// False for the windows that have no translation script.
+bool isTranslatedWindow(std::string_view windowName);
+
 // How a failed translation is shown: the failure's description, titled
 // "Langue/Language " and the line of the script's error (0 when the file
 // itself failed).

@@ -12,6 +12,8 @@
 #include "editor/app/editor_shell_view.h"
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
+#include "editor/ui/about_window.h"
+#include "editor/ui/appearance_editor_panel.h"
 #include "editor/wizard/editor_wizard.h"
 
 namespace qor {
@@ -48,6 +50,8 @@ public:
     ProjectViews& projectViews() { return projectViews_; }
     EditorWizard& wizard() { return wizard_; }
     EditorBuildView& buildView() { return buildView_; }
+    // The about window, once opened.
+    AboutWindow* aboutWindow() { return about_.get(); }
 
 private:
     void connectWindow(WindowId window);
@@ -63,6 +67,8 @@ private:
     EditorScriptEditorView scriptEditorView_;
     EditorWizard wizard_;
     EditorDesignerView designerView_;
+    std::unique_ptr<AboutWindow> about_;
+    std::unique_ptr<AppearanceEditorPanel> appearancePanel_;
 };
 
 // What start-up needs from the platform: the executable's path, the

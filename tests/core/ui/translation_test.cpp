@@ -72,12 +72,17 @@ TEST(Translation, TheMainWindowFillsThePhraseList)
     EXPECT_EQ(text(*w.self), "QOR");
 }
 
-TEST(Translation, FrenchRunsNothing)
+TEST(Translation, FrenchAndTheUntranslatedWindowsRunNothing)
 {
     LanguageRun run;
-    run.language.clear();
     test::FakeWindow w;
     run.pack("Form1.lge", "Form1.Caption = \"Objects\"\r\n");
+    // Neither has a script, and neither may fail for it.
+    for (const char* untranslated : {"Splash", "Form18"}) {
+        EXPECT_FALSE(run.translator.translate(untranslated, w.node())) << untranslated;
+        EXPECT_EQ(run.language, "English");
+    }
+    run.language.clear();
     EXPECT_FALSE(run.translator.translate("Form1", w.node()));
     EXPECT_EQ(text(*w.self), "");
 }
