@@ -120,6 +120,7 @@ private slots:
     void aBrokenPackIsReportedAndTheRestStaysFrench();
     void appearancesColourTheWindowsThatTakeThemOnLoad();
     void aboutWindowScrollsPausesAndOpensLinks();
+    void theAboutCommandOpensTheCredits();
 };
 
 void TestLanguages::everyWindowIsTranslatedByTheShippedPack()
@@ -240,6 +241,20 @@ void TestLanguages::aboutWindowScrollsPausesAndOpensLinks()
     const double hidden = about.panelTop();
     QTest::qWait(50);
     QCOMPARE(about.panelTop(), hidden);
+}
+
+void TestLanguages::theAboutCommandOpensTheCredits()
+{
+    test::Session s;
+    QCOMPARE(s.start(), StartOutcome::Running);
+    s.trigger(CommandId::About);
+    AboutWindow* about = s.editor->aboutWindow();
+    QVERIFY(about);
+    QVERIFY(about->isVisible());
+    QTest::mouseClick(about->entries()[5], Qt::LeftButton);  // "Accès au site"
+    QCOMPARE(s.desktop.opened.size(), std::size_t(1));
+    QTest::mouseClick(about, Qt::LeftButton);
+    QVERIFY(!about->isVisible());
 }
 
 QTEST_MAIN(TestLanguages)
