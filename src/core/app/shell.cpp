@@ -101,6 +101,8 @@ void Shell::applyAppearance(const Appearance& appearance)
 {
     for (WindowId w : kMainAppearanceOrder)
         view_.applyAppearance(w, appearance);
+    // The titles take the appearance's font, so their widths change.
+    mainWindow_.placeMenuTitles();
 }
 
 void Shell::writeFirstRunFiles()

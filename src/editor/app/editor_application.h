@@ -13,7 +13,7 @@
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
 #include "editor/ui/about_window.h"
-#include "editor/ui/appearance_editor_panel.h"
+#include "editor/app/appearance_editor_panel.h"
 #include "editor/wizard/editor_wizard.h"
 
 namespace qor {

@@ -1,4 +1,4 @@
-#include "editor/ui/appearance_editor_panel.h"
+#include "editor/app/appearance_editor_panel.h"
 
 #include <QApplication>
 #include <QComboBox>
