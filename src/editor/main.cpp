@@ -11,6 +11,7 @@
 #include "editor/platform/qt_dialogs.h"
 #include "editor/platform/qt_screen.h"
 #include "editor/platform/qt_settings_store.h"
+#include "editor/ui/live_window_hooks.h"
 
 int main(int argc, char** argv)
 {
@@ -33,7 +34,10 @@ int main(int argc, char** argv)
     qor::QtScreen screen;
     qor::DesktopFileTypeRegistry fileTypes;
     qor::MissingQmbConverter qmbConverter;
-    qor::EditorApplication editor({dialogs, settings, desktop, screen, fileTypes, qmbConverter});
+    qor::LiveWindowHooks hooks;
+    qor::EditorApplication editor({dialogs, settings, desktop, screen, fileTypes, qmbConverter}, hooks);
+    // The windows load during start-up, once the run knows its language.
+    hooks.attach(editor.core().state(), dialogs);
 
     const auto inputs = qor::startupInputs(argc, argv, QDateTime::currentDateTime());
     if (editor.start(inputs) == qor::StartOutcome::Quit)

@@ -18,7 +18,8 @@ Application::Application(Platform p)
       qmb_(p.qmbConverter, p.dialogs,
            [this](const std::string& path) { lifecycle_.openPath(path); }),
       shell_(state_, AppPorts{p.dialogs, p.settings, p.desktop, p.screen, p.fileTypes}, p.shellView, settings_,
-             recentFiles_, lifecycle_)
+             recentFiles_, lifecycle_),
+      appearanceEditor_(state_, p.dialogs, shell_, shell_.options())
 {
     // The script editor's F5 runs the same test as the main window's command.
     scriptEditor_.setTestRun([this] { shell_.run(CommandId::TestProject); });

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "core/app/app_state.h"
+#include "core/app/appearance_editor.h"
 #include "core/app/recent_files.h"
 #include "core/app/shell.h"
 #include "core/app/shell_view.h"
@@ -63,6 +64,7 @@ public:
     BuildFlows* build() { return build_ ? &*build_ : nullptr; }
     Designer& designer() { return designer_; }
     ShapeFlows& shapeEditor() { return shape_; }
+    AppearanceEditor& appearanceEditor() { return appearanceEditor_; }
 
 private:
     // Sends the recent files and the QMB files where they belong.
@@ -91,6 +93,7 @@ private:
     DocumentLifecycle lifecycle_;
     QmbImport qmb_;
     Shell shell_;
+    AppearanceEditor appearanceEditor_;
     LocalFileSystem localFiles_;
     NoButtonBaker noBaker_;
     std::optional<BuildFlows> build_;

@@ -47,8 +47,7 @@ void MainWindowFlows::load(const StartFacts& facts)
         reportLoadFailure(s.error());
     recentFiles_.rebuild();
 
-    titles_ = layOutMenuTitles(view_.menuTitleTextWidths());
-    view_.placeMenuTitles(titles_);
+    placeMenuTitles();
 
     view_.setMainCaption(caption());
 
@@ -61,6 +60,12 @@ void MainWindowFlows::load(const StartFacts& facts)
 
     if (Status s = plugins_.load(); !s)
         reportLoadFailure(s.error());
+}
+
+void MainWindowFlows::placeMenuTitles()
+{
+    titles_ = layOutMenuTitles(view_.menuTitleTextWidths());
+    view_.placeMenuTitles(titles_);
 }
 
 std::string MainWindowFlows::caption() const

@@ -44,6 +44,10 @@ public:
     // "QOR v2.0 - créateur de menus" (another language: phrase 4 after "QOR v2.0 - ").
     std::string caption() const;
 
+    // The titles laid out side by side from their captions' widths; again
+    // whenever an appearance changes their font.
+    void placeMenuTitles();
+
     // The pointer over title i: every title reset, title i highlighted.
     void pointerOverTitle(int index);
     // A press on title i: highlighted, and menu i popped up under it.

@@ -75,6 +75,8 @@ StartOutcome Shell::start(const StartupInputs& inputs)
         if (w == WindowId::Main)
             mainWindow_.load(inputs.facts);
     }
+    // The options file read by the main window's load told the appearance.
+    applyAppearance(state_.appearance);
 
     WindowSizes sizes;
     sizes.toolbox = view_.windowSize(WindowId::Toolbox);
@@ -93,6 +95,14 @@ StartOutcome Shell::start(const StartupInputs& inputs)
         view_.showWindow(w);
     view_.hideSplash();
     return StartOutcome::Running;
+}
+
+void Shell::applyAppearance(const Appearance& appearance)
+{
+    for (WindowId w : kMainAppearanceOrder)
+        view_.applyAppearance(w, appearance);
+    // The titles take the appearance's font, so their widths change.
+    mainWindow_.placeMenuTitles();
 }
 
 void Shell::writeFirstRunFiles()
@@ -163,8 +173,7 @@ void Shell::run(CommandId command, int position)
     case C::PrintToBmp: view_.openPrintPreview(0); break;
     case C::PrintToClipboard: view_.openPrintPreview(1); break;
     case C::PrintToPaper: view_.openPrintPreview(2); break;
-    // The about window comes with its own part.
-    case C::About:
+    case C::About: view_.openAboutWindow(); break;
     default:
         break;
     }

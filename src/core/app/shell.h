@@ -69,6 +69,10 @@ public:
     // every window is then hidden and unloaded.
     bool quit();
 
+    // Colours the toolbox, the main window, the properties panel and the
+    // mouse-position window, in this order.
+    void applyAppearance(const Appearance& appearance);
+
     AppState& state() { return state_; }
     MainWindowFlows& mainWindow() { return mainWindow_; }
     OptionCommands& options() { return options_; }

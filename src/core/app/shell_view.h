@@ -76,6 +76,10 @@ public:
     // "Langue/Language": the captions ("Français" first) and the checked one.
     virtual void showLanguages(const std::vector<std::string>& captions, int checked) = 0;
 
+    // Colours a loaded window with an appearance.
+    virtual void applyAppearance(WindowId, const Appearance&) {}
+    // Opens the about window "Crédits" anew.
+    virtual void openAboutWindow() {}
     // Panels that later parts fill in.
     virtual void openAppearancePanel() = 0;
     virtual void openCreationWizard() = 0;

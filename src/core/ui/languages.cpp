@@ -45,15 +45,4 @@ Message languageChangedMessage(const Phrases& phrases)
                    commandCaption(CommandId::ChooseLanguage), MessageIcon::Information};
 }
 
-void translateWindow(std::string_view, std::string_view)
-{
-    // Translation scripts run here once the script engine serves them.
-}
-
-std::optional<Appearance> windowAppearance(std::string_view, const Appearance&)
-{
-    // Appearances are carried through the options file but not applied yet.
-    return std::nullopt;
-}
-
 }  // namespace qor

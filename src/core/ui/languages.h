@@ -36,14 +36,4 @@ std::optional<std::string> languageOfItem(const LanguageMenu& menu, int item);
 // effect at the next start.
 Message languageChangedMessage(const Phrases& phrases);
 
-// Hooks every window calls as it loads, with its internal name ("Form1" ...).
-// Until interface languages and appearances are applied, both leave the
-// window as designed.
-
-// Runs the window's translation script of the current language.
-void translateWindow(std::string_view interfaceLanguage, std::string_view windowName);
-
-// The appearance the window takes, or nothing to keep its design colours.
-std::optional<Appearance> windowAppearance(std::string_view windowName, const Appearance& current);
-
 }  // namespace qor

@@ -48,6 +48,15 @@ EditorApplication::EditorApplication(EditorPorts ports, WindowHooks& hooks)
     QObject::connect(&windows_.splash(), &SplashWindow::closed, [this] { wizard_.handOverAsModal(); });
     shellView_.windowLoaded = [this](WindowId w) { connectWindow(w); };
     shellView_.printPreviewRequested = [this](int entry) { openPrintPreview(entry); };
+    shellView_.appearancePanelRequested = [this] { core_.appearanceEditor().open(); };
+    // The about window is built anew each time, so it translates and starts
+    // its credits from the bottom again.
+    shellView_.aboutRequested = [this, &hooks, &desktop = ports.desktop, screen = ports.screen.metrics()] {
+        about_ = std::make_unique<AboutWindow>(screen, hooks);
+        QObject::connect(about_.get(), &AboutWindow::linkActivated, about_.get(),
+                         [&desktop](const QString& target) { desktop.open(fromQt(target), WindowShow::Normal); });
+        about_->show();
+    };
     documentView_.authorFieldsAccepted = [this](const AuthorFields& fields) {
         applyAuthorFields(core_.project(), fields);
     };
@@ -80,6 +89,8 @@ void EditorApplication::connectWindow(WindowId window)
                          [&shell](int i) { shell.mainWindow().pressTitle(i); });
         QObject::connect(&main, &MainWindow::menuTitlesResetRequested, &main,
                          [&shell] { shell.mainWindow().resetTitles(); });
+        appearancePanel_ = std::make_unique<AppearanceEditorPanel>(main, core_.appearanceEditor());
+        core_.appearanceEditor().setView(appearancePanel_.get());
         break;
     }
     case WindowId::Toolbox: connectToolbox(); break;

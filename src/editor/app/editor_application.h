@@ -16,6 +16,8 @@
 #include "editor/app/editor_windows.h"
 #include "editor/app/project_views.h"
 #include "editor/ui/print_preview_window.h"
+#include "editor/ui/about_window.h"
+#include "editor/app/appearance_editor_panel.h"
 #include "editor/wizard/editor_wizard.h"
 
 namespace qor {
@@ -60,6 +62,8 @@ public:
     void openPrintPreview(int entry);
     PrintPreviewWindow* printPreview() const { return printPreview_; }
     EditorShapeView& shapeView() { return shapeView_; }
+    // The about window, once opened.
+    AboutWindow* aboutWindow() { return about_.get(); }
 
 private:
     void connectWindow(WindowId window);
@@ -81,6 +85,8 @@ private:
     EditorWizard wizard_;
     EditorDesignerView designerView_;
     EditorShapeView shapeView_;
+    std::unique_ptr<AboutWindow> about_;
+    std::unique_ptr<AppearanceEditorPanel> appearancePanel_;
 };
 
 // What start-up needs from the platform: the executable's path, the

@@ -12,6 +12,8 @@
 #include "editor/platform/qt_text.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor/ui/splash_window.h"
+#include "editor/ui/widget_control_node.h"
+#include "core/ui/appearance_rules.h"
 
 namespace qor {
 
@@ -195,7 +197,25 @@ void EditorShellView::showLanguages(const std::vector<std::string>& captions, in
 
 // The appearance editor comes with its own part; until then its command
 // opens nothing.
-void EditorShellView::openAppearancePanel() {}
+void EditorShellView::applyAppearance(WindowId window, const Appearance& appearance)
+{
+    QWidget* w = windows_.window(window);
+    if (!w)
+        return;
+    auto node = windowNode(*w);
+    qor::applyAppearance(*node, appearance);
+    // The main window paints its menu titles itself, in the window's colours.
+    if (window == WindowId::Main) {
+        const QPalette& system = QApplication::palette();
+        windows_.main().setTitleColours(toQColor(appearance.windowBack, system), toQColor(appearance.textColor, system));
+    }
+}
+
+void EditorShellView::openAppearancePanel()
+{
+    if (appearancePanelRequested)
+        appearancePanelRequested();
+}
 
 void EditorShellView::openPrintPreview(int entry)
 {

@@ -21,6 +21,10 @@ public:
     // Ends the event loop once every window is unloaded (the application's
     // own by default).
     std::function<void()> endEventLoop;
+    // Opens the appearance editor.
+    std::function<void()> appearancePanelRequested;
+    // Opens the about window.
+    std::function<void()> aboutRequested;
     // Opens a fresh creation wizard.
     std::function<void()> creationWizardRequested;
     std::function<void(int)> printPreviewRequested;
@@ -50,7 +54,13 @@ public:
     void showPlugins(const std::vector<PluginCommand>& commands, bool placeholderVisible) override;
     void showLanguages(const std::vector<std::string>& captions, int checked) override;
 
+    void applyAppearance(WindowId window, const Appearance& appearance) override;
     void openAppearancePanel() override;
+    void openAboutWindow() override
+    {
+        if (aboutRequested)
+            aboutRequested();
+    }
     void openCreationWizard() override;
     void openPrintPreview(int entry) override;
 

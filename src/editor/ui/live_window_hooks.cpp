@@ -1,0 +1,36 @@
+#include "editor/ui/live_window_hooks.h"
+
+#include <QWidget>
+
+#include "core/ui/appearance_rules.h"
+#include "editor/platform/qt_text.h"
+#include "editor/ui/widget_control_node.h"
+
+namespace qor {
+
+void LiveWindowHooks::attach(AppState& state, Dialogs& dialogs)
+{
+    state_ = &state;
+    dialogs_ = &dialogs;
+    translator_.emplace(state.interfaceLanguage, state.phrases, state.programFolder);
+}
+
+void LiveWindowHooks::translate(QWidget& window)
+{
+    if (!translator_)
+        return;
+    if (auto failed = translator_->translate(fromQt(window.objectName()), windowNode(window)))
+        dialogs_->message(*failed);
+}
+
+void LiveWindowHooks::applyAppearance(QWidget& window)
+{
+    if (!state_)
+        return;
+    if (auto appearance = windowAppearance(fromQt(window.objectName()), state_->appearance)) {
+        auto node = windowNode(window);
+        qor::applyAppearance(*node, *appearance);
+    }
+}
+
+}  // namespace qor
