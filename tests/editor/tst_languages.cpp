@@ -13,6 +13,8 @@
 
 #include "core/app/app_state.h"
 #include "core/build/compile_request.h"
+#include "editor/shape/shape_panel.h"
+#include "editor/shape/shape_surface.h"
 #include "editor/app/main_window.h"
 #include "editor/build/compile_dialog.h"
 #include "editor/build/test_run_watcher.h"
@@ -60,6 +62,8 @@ const std::vector<std::pair<QString, WindowMaker>>& translatedWindows()
         {"Form10", [](WindowHooks& h, test::Session&) { return std::make_unique<MousePositionWindow>(h); }},
         {"Form14", [](WindowHooks& h, test::Session&) { return std::make_unique<CreationWizardWindow>(h); }},
         {"Form15", [](WindowHooks& h, test::Session&) { return std::make_unique<TestRunWatcher>(h); }},
+        {"Form16", [](WindowHooks& h, test::Session&) { return std::make_unique<ShapeSurface>(kScreen, h); }},
+        {"Form17", [](WindowHooks& h, test::Session&) { return std::make_unique<ShapePanel>(h); }},
         {"Form19", [](WindowHooks& h, test::Session&) { return std::make_unique<FileInfoWindow>(h); }},
     };
     return windows;
