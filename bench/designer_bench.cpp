@@ -106,8 +106,10 @@ struct EditorRun : qor::bench::BenchEditor<QtScreen> {
 
 EditorRun& editorRun()
 {
-    static EditorRun run;
-    return run;
+    // Kept to the end of the process on purpose: its windows must not be
+    // destroyed after the application object that the benchmark's main owns.
+    static EditorRun* run = new EditorRun;
+    return *run;
 }
 
 // The editor with the big project open, or nothing (the run refused).

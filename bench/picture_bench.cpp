@@ -91,8 +91,10 @@ struct EditorRun : qor::bench::BenchEditor<FixedScreen> {
 
 EditorRun& editorRun()
 {
-    static EditorRun run;
-    return run;
+    // Kept to the end of the process on purpose: its windows must not be
+    // destroyed after the application object that the benchmark's main owns.
+    static EditorRun* run = new EditorRun;
+    return *run;
 }
 
 void BM_BakeAllButtonsOnTheWorksheet(benchmark::State& state)

@@ -42,7 +42,10 @@ TextElement::TextElement(int number, QWidget* parent) : QWidget(parent), number_
     named(this, "Texte", number);
     setToolTip(QStringLiteral("MAJ + clique pour déplacer - Clique droit pour redimensionner"));
     setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    // Not marked opaque although it paints all of itself: with 500 opaque
+    // boxes Qt would work out what each one hides on every repaint of the
+    // worksheet, which costs more than drawing the little background under
+    // the one that changed.
     setCursor(Qt::IBeamCursor);
     hide();
 }
