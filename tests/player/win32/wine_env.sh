@@ -11,6 +11,11 @@ export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml="
 
 fail() { echo "wine cannot start: $*" >&2; exit 1; }
+# A wine server outlives its programs by a few seconds, and keeps the display
+# (or the lack of one) it was started with: a check that shows windows after
+# one that showed none would find them on no screen. Each check starts its
+# own server; the checks of one prefix never run side by side.
+fresh_server() { wineserver -k 2>/dev/null; wineserver -w 2>/dev/null; true; }
 command -v wine >/dev/null || fail "no wine on this machine (tools/install-deps.sh installs it)"
 
 case $what in
@@ -28,10 +33,12 @@ init)
   ;;
 wine)
   [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  fresh_server
   exec wine "$@"
   ;;
 exec)
   [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  fresh_server
   exec "$@"
   ;;
 *) echo "unknown step: $what" >&2; exit 2 ;;
