@@ -14,6 +14,11 @@
 
 namespace qor::bench {
 
+// A 1024 x 768 screen at 15 twips per pixel, the same on every machine.
+struct FixedScreen : Screen {
+    ScreenMetrics metrics() override { return {15360, 11520, 15, 15}; }
+};
+
 // One editor, started with its Qt ports in folders of its own, on the
 // screen port given.
 template <class ScreenPort>

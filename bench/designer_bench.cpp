@@ -41,9 +41,7 @@ using qor::bench::SilentDialogs;
 constexpr int kButtons = 99;
 constexpr int kTexts = 500;
 
-struct NoScreen : Screen {
-    ScreenMetrics metrics() override { return {15360, 11520, 15, 15}; }
-};
+using qor::bench::FixedScreen;
 
 std::string picture(const QDir& dir, const QString& name, QColor colour)
 {
@@ -174,7 +172,7 @@ void BM_SelectInTheCore(benchmark::State& state)
     MenuProject project;
     Selection selection;
     SilentDialogs dialogs;
-    NoScreen screen;
+    FixedScreen screen;
     Phrases phrases;
     NoProjectHooks pictures;
     NoProjectRoutes routes;

@@ -29,9 +29,7 @@ using qor::bench::SilentDialogs;
 
 constexpr int kButtons = 99;
 
-struct FixedScreen : Screen {
-    ScreenMetrics metrics() override { return {15360, 11520, 15, 15}; }
-};
+using qor::bench::FixedScreen;
 
 std::string picture(const QDir& dir, const QString& name, QColor colour)
 {
