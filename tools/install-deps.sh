@@ -5,14 +5,17 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake ninja-build pkg-config git
+  build-essential cmake ninja-build pkg-config git ccache
   qt6-base-dev qt6-base-dev-tools libgl-dev libglx-dev
   qt6-multimedia-dev qt6-translations-l10n
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   lua5.4 liblua5.4-dev
   fonts-dejavu-core
   xorriso
-  g++-mingw-w64-x86-64 wine wine64 xvfb xauth xdotool imagemagick
+  g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
+  xvfb xauth xdotool x11-utils openbox imagemagick
+  # the web player: built with emscripten, checked in headless Chromium
+  emscripten chromium chromium-driver python3-selenium
   # wine only loads these X libraries when present; without them its windows
   # lose their cursors, transparency and screen geometry.
   libxrender1 libxcursor1 libxrandr2 libxi6 libxcomposite1 libxinerama1 libxfixes3
@@ -38,5 +41,5 @@ if [[ $(id -u) -ne 0 ]]; then
   fi
 fi
 export DEBIAN_FRONTEND=noninteractive
-"${sudo[@]}" apt-get update -qq
-"${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+"${sudo[@]}" apt-get update -qq -o DPkg::Lock::Timeout=600
+"${sudo[@]}" apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}"
