@@ -9,6 +9,7 @@
 #include "script/host.h"
 #include "script/script_error.h"
 #include "text/cp1252.h"
+#include "text/float_chars.h"
 #include "text/text_helpers.h"
 #include "text/utf8.h"
 
@@ -232,7 +233,7 @@ std::optional<double> parseDecimal(std::string_view text)
         number = copy;
     }
     double d = 0;
-    std::from_chars_result r = std::from_chars(number.data(), number.data() + number.size(), d);
+    std::from_chars_result r = doubleFromChars(number.data(), number.data() + number.size(), d);
     if (r.ec != std::errc() || !std::isfinite(d))
         return std::nullopt;
     return d;

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "text/float_chars.h"
+
 namespace qor {
 namespace {
 
@@ -106,7 +108,7 @@ Scan scan(std::string_view s)
         buf.push_back(c);
     }
     double v = 0;
-    auto res = std::from_chars(buf.data(), buf.data() + buf.size(), v);
+    auto res = doubleFromChars(buf.data(), buf.data() + buf.size(), v);
     if (res.ec == std::errc::result_out_of_range) {
         // Tiny values underflow to zero; huge ones overflow.
         bool huge = false;
@@ -133,8 +135,7 @@ std::string numberText(double value, int digits)
     if (value == 0 || !std::isfinite(value))
         return "0";
     char buf[64];
-    auto res = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, digits);
-    std::string out(buf, res.ptr);
+    std::string out(buf, doubleToChars(buf, buf + sizeof buf, value, digits));
     auto e = out.find('e');
     if (e != std::string::npos)
         out[e] = 'E';

@@ -13,6 +13,7 @@
 #include "core/build/compiler.h"
 #include "core/build/headless_project.h"
 #include "core/build/html_launcher.h"
+#include "core/build/web_menu.h"
 #include "core/build/iso_image.h"
 #include "core/build/local_file_system.h"
 #include "core/build/local_program_runner.h"
@@ -24,7 +25,7 @@ namespace {
 
 const char* kHelp =
     "Utilisation :\n"
-    "  qorc build PROJET.qor CIBLE [--name N] [--author A] [--sub-menu NOM] [--no-runtime] [--yes]\n"
+    "  qorc build PROJET.qor CIBLE [--name N] [--author A] [--sub-menu NOM] [--no-runtime] [--yes] [--web]\n"
     "  qorc html PROJET.qor DOSSIER/\n"
     "  qorc iso PROJET.qor IMAGE.iso [--add DOSSIER]... [--name N] [--author A] [--no-runtime]\n"
     "\n"
@@ -33,9 +34,10 @@ const char* kHelp =
     "       --name, --author : nom et auteur du projet (par défaut ceux du dialogue) ;\n"
     "       --sub-menu NOM : compile un sous menu à côté d'un menu principal existant ;\n"
     "       --no-runtime : ne copie pas les fichiers 'RUNTIME' ;\n"
-    "       --yes : remplace une compilation existante (sinon elle est gardée et qorc refuse).\n"
-    "html   écrit DOSSIER/index.htm, la page qui ouvre le menu web ; DOSSIER est pris tel quel\n"
-    "       (« d/web » écrit « d/webindex.htm »).\n"
+    "       --yes : remplace une compilation existante (sinon elle est gardée et qorc refuse) ;\n"
+    "       --web : écrit aussi index.htm et le menu web à la racine de CIBLE.\n"
+    "html   écrit DOSSIER/index.htm, la page qui ouvre le menu web, et à côté qor_menu2.htm avec son\n"
+    "       dossier qor_menu2/ ; DOSSIER est pris tel quel (« d/web » écrit « d/webindex.htm »).\n"
     "iso    compile dans un dossier temporaire et écrit une image de CD (ISO 9660, Joliet,\n"
     "       Rock Ridge ; nom de volume tiré du nom du projet) avec Autorun.inf, qor/ et chaque\n"
     "       DOSSIER de --add sous son propre nom (les médias des boutons « vidéo »).\n"
@@ -55,6 +57,7 @@ struct Arguments {
     std::vector<std::string> added;              // every --add
     bool yes = false;
     bool noRuntime = false;
+    bool web = false;
 };
 
 struct OptionRule {
@@ -66,6 +69,7 @@ struct OptionRule {
 constexpr OptionRule kOptions[] = {
     {"--name", true, "build iso"}, {"--author", true, "build iso"}, {"--sub-menu", true, "build"},
     {"--no-runtime", false, "build iso"}, {"--yes", false, "build"}, {"--add", true, "iso"},
+    {"--web", false, "build"},
 };
 
 constexpr std::pair<const char*, std::size_t> kPositionals[] = {{"build", 2}, {"html", 2}, {"iso", 2}};
@@ -81,7 +85,7 @@ bool readOption(Arguments& a, const std::string& word, int& i, int argc, char** 
         if (word != rule.name || !accepts(rule, a.command))
             continue;
         if (!rule.takesValue) {
-            (word == "--yes" ? a.yes : a.noRuntime) = true;
+            (word == "--yes" ? a.yes : word == "--web" ? a.web : a.noRuntime) = true;
             return true;
         }
         if (++i >= argc)
@@ -141,6 +145,7 @@ private:
     CompileRequest request(const std::string& target) const;
     int compileInto(const std::string& target);
     int html();
+    int web(const std::string& pageFolder);
     int iso();
 
     bool bake();
@@ -220,7 +225,17 @@ int Builder::compileInto(const std::string& target)
         return kFailed;
     Compiler compiler(files_, dialogs_, state_);
     const CompileOutcome outcome = compiler.compile(project_, request(target), {program_, true}, view_);
-    return outcome == CompileOutcome::Done ? kOk : kFailed;
+    if (outcome != CompileOutcome::Done)
+        return kFailed;
+    if (!args_.web)
+        return kOk;
+    // The CD opens in a browser too: the launcher and the web menu at its root.
+    const std::string root = withTrailingSeparator(target);
+    if (Status s = writeHtmlLauncher(files_, project_, root + kHtmlLauncherName); !s) {
+        std::cerr << "Erreur : " << inFrench(s.error()).description << " (" << root << kHtmlLauncherName << ")\n";
+        return kFailed;
+    }
+    return web(root);
 }
 
 int Builder::html()
@@ -231,6 +246,20 @@ int Builder::html()
         return kFailed;
     }
     std::cout << path << '\n';
+    if (!bake())
+        return kFailed;
+    return web(folderOf(path));
+}
+
+// The web menu beside the launcher: the page and its folder.
+int Builder::web(const std::string& pageFolder)
+{
+    const CompileRequest names = request(pageFolder);
+    if (Status s = writeWebMenu(files_, project_, {names.projectName, names.author}, pageFolder, program_); !s) {
+        std::cerr << "Erreur : " << inFrench(s.error()).description << " (" << pageFolder << kWebPageName << ")\n";
+        return kFailed;
+    }
+    std::cout << pageFolder << kWebPageName << '\n';
     return kOk;
 }
 

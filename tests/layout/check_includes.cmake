@@ -24,8 +24,9 @@ set(uses_editor picture core model script text)
 set(uses_player/core model script text)
 set(uses_player/qt player/core model script text)
 set(uses_player/win32 player/core model script text)
+set(uses_player/web player/core model script text)
 set(uses_tools picture core player/core model script text)
-set(qt_free text model script core player/core player/win32)
+set(qt_free text model script core player/core player/win32 player/web)
 
 # The library a path (relative to SRC, or an include) belongs to; "" for none.
 function(library_of path out)

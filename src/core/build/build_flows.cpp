@@ -2,6 +2,8 @@
 
 #include "core/build/build_messages.h"
 #include "core/build/html_launcher.h"
+#include "core/build/web_menu.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 
@@ -31,8 +33,18 @@ void BuildFlows::exportHtml()
     const std::string answer = context_.ports.dialogs.inputBox("rep ?", context_.settings.untitled,
                                                                context_.ports.files.desktopFolder());
     const std::string path = htmlLauncherPath(answer);
-    if (Status s = writeHtmlLauncher(context_.ports.files, context_.project, path); !s)
+    if (Status s = writeHtmlLauncher(context_.ports.files, context_.project, path); !s) {
         context_.ports.dialogs.message(htmlNotWrittenMessage(path, s.error()));
+        return;
+    }
+    // The page the launcher opens, with transparent buttons baked as for a CD.
+    context_.ports.baker.bakeAllButtons();
+    const CompileRequest names = compileDefaults(context_.project, context_.ports.files.homeFolder());
+    const std::string folder = folderOf(path);
+    if (Status s = writeWebMenu(context_.ports.files, context_.project, {names.projectName, names.author}, folder,
+                                context_.settings.programFolder);
+        !s)
+        context_.ports.dialogs.message(htmlNotWrittenMessage(folder + kWebPageName, s.error()));
 }
 
 CompileOutcome BuildFlows::compile(const CompileRequest& request, CompileView& view)

@@ -1,0 +1,21 @@
+# The browser player's own build tree, compiled to WebAssembly with
+# emscripten: only the libraries the player stands on, small rather than
+# fast, and the engine's loop benchmark beside it.
+add_compile_options(-Os -ffunction-sections -fdata-sections -fexceptions)
+add_link_options(-fexceptions)
+
+add_subdirectory(src/text)
+add_subdirectory(src/model)
+add_subdirectory(src/script)
+add_subdirectory(src/player/core)
+add_subdirectory(src/player/web)
+
+if(QOR_BUILD_BENCH)
+  add_executable(script_loops ${CMAKE_SOURCE_DIR}/bench/win32/script_loops_main.cpp)
+  target_include_directories(script_loops PRIVATE ${CMAKE_SOURCE_DIR}/bench)
+  target_link_libraries(script_loops PRIVATE qorscript)
+  # Loops measure the engine as the page runs it: the same optimisation,
+  # exceptions and Asyncify instrumentation.
+  target_link_options(script_loops PRIVATE -Os -sTOTAL_STACK=8MB -sALLOW_MEMORY_GROWTH=1 -sENVIRONMENT=node,web -sSINGLE_FILE=1 -sASYNCIFY=1)
+  qor_warnings(script_loops)
+endif()

@@ -1,0 +1,127 @@
+#include "core/build/web_menu.h"
+
+#include <set>
+
+#include "core/build/compile_plan.h"
+#include "core/build/compile_request.h"
+#include "core/build/menu_data_file.h"
+#include "text/text_helpers.h"
+
+namespace qor {
+namespace {
+
+constexpr const char* kDataName = "menu.dat";
+
+std::string base64(std::string_view bytes)
+{
+    static constexpr char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string out;
+    out.reserve((bytes.size() + 2) / 3 * 4);
+    std::size_t i = 0;
+    for (; i + 2 < bytes.size(); i += 3) {
+        const unsigned v = unsigned(std::uint8_t(bytes[i])) << 16 | unsigned(std::uint8_t(bytes[i + 1])) << 8 |
+                           unsigned(std::uint8_t(bytes[i + 2]));
+        out += {kDigits[v >> 18], kDigits[(v >> 12) & 63], kDigits[(v >> 6) & 63], kDigits[v & 63]};
+    }
+    if (i < bytes.size()) {
+        const bool two = i + 1 < bytes.size();
+        const unsigned v = unsigned(std::uint8_t(bytes[i])) << 16 | (two ? unsigned(std::uint8_t(bytes[i + 1])) << 8 : 0);
+        out += {kDigits[v >> 18], kDigits[(v >> 12) & 63], two ? kDigits[(v >> 6) & 63] : '=', '='};
+    }
+    return out;
+}
+
+// A JavaScript string literal: names may hold quotes, accents, anything.
+std::string jsString(std::string_view s)
+{
+    std::string out = "\"";
+    for (unsigned char c : s) {
+        if (c == '"' || c == '\\')
+            out += '\\', out += char(c);
+        else if (c < 0x20 || c == '<')
+            out += "\\x" + std::string{"0123456789abcdef"[c >> 4], "0123456789abcdef"[c & 15]};
+        else
+            out += char(c);
+    }
+    return out + "\"";
+}
+
+}  // namespace
+
+bool embeddedInWebMenu(const std::string& name)
+{
+    for (const char* ext : {".bmp", ".gif", ".jpg", ".jpeg", ".png", ".ico", ".cur", ".dat"})
+        if (endsWithNoCase(name, ext))
+            return true;
+    return false;
+}
+
+std::string webMenuScript(const std::string& dataName, const std::vector<std::pair<std::string, std::string>>& files)
+{
+    std::string out = "window.QOR_MENU={folder:" + jsString(kWebFolderName) + ",data:" + jsString(dataName) +
+                      ",files:{";
+    bool first = true;
+    for (const auto& [name, bytes] : files) {
+        out += first ? "\n" : ",\n";
+        first = false;
+        out += jsString(name) + ":\"" + base64(bytes) + "\"";
+    }
+    return out + "}};\n";
+}
+
+Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDataInfo& info,
+                    const std::string& pageFolder, const std::string& programFolder)
+{
+    const std::string folder = pageFolder + kWebFolderName + "/";
+    if (!files.isFolder(folder))
+        if (Status s = files.createFolder(folder); !s)
+            return s;
+    // The same pictures and sounds a compilation copies into qor/; a file
+    // that is missing stays missing, as on the CD, and the player says so.
+    CompileRequest request = compileDefaults(project, folder);
+    request.subMenu = false;
+    const CompilePlan plan = compilePlan(project, request, programFolder);
+    std::vector<std::pair<std::string, std::string>> embedded;
+    std::set<std::string> seen;
+    for (const CompileAction& a : plan.actions) {
+        if (a.kind != CompileAction::Kind::Copy || a.source.starts_with(programFolder))
+            continue;
+        const std::string name = fileNameOf(a.target);
+        if (!seen.insert(lowerAscii(name)).second)
+            continue;
+        Result<std::string> bytes = files.readFile(a.source);
+        if (!bytes)
+            continue;
+        if (Status s = files.writeFile(folder + name, *bytes); !s)
+            return s;
+        if (embeddedInWebMenu(name))
+            embedded.emplace_back(name, std::move(*bytes));
+    }
+    // The data alone, with no player program before it.
+    const std::string data = folder + kDataName;
+    if (Status s = files.writeFile(data, {}); !s)
+        return s;
+    if (Status s = writeMenuData(files, project, info, data); !s)
+        return s;
+    Result<std::string> dataBytes = files.readFile(data);
+    if (!dataBytes)
+        return Status(dataBytes.error());
+    embedded.emplace_back(kDataName, std::move(*dataBytes));
+    if (Status s = files.writeFile(folder + "menu.js", webMenuScript(kDataName, embedded)); !s)
+        return s;
+
+    const std::string player = programFolder + "web/";
+    for (const char* name : kWebPlayerFiles)
+        if (Status s = files.copyFile(player + name, folder + name, {}); !s)
+            return s;
+    Result<std::string> page = files.readFile(player + kWebPageTemplate);
+    if (!page)
+        return Status(page.error());
+    std::string text = std::move(*page);
+    const std::string marker = "@FOLDER@";
+    for (std::size_t at = text.find(marker); at != std::string::npos; at = text.find(marker, at))
+        text.replace(at, marker.size(), kWebFolderName);
+    return files.writeFile(pageFolder + kWebPageName, text);
+}
+
+}  // namespace qor

@@ -1,0 +1,338 @@
+#!/usr/bin/env python3
+"""The web menu in a real browser: menus exported by `qorc html`, opened from
+their folder (file://) in headless Chromium driven by chromedriver.
+
+    web_player_test.py PROGRAM_FOLDER STATEMENTS_PROGRAM [LINUX_SHOT_PROGRAM]
+
+PROGRAM_FOLDER is the staged program folder (qorc, qorbake, web/).
+STATEMENTS_PROGRAM prints every statement of the script assistant.
+A browser that cannot start fails the check, with the reason.
+"""
+import base64
+import os
+import shutil
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import zlib
+
+FAILURES = []
+
+
+def check(name, ok, detail=''):
+    if not ok:
+        FAILURES.append(name)
+        print('FAILED: %s %s' % (name, detail))
+
+
+# ---- files of a test menu ---------------------------------------------------
+
+def bmp(path, width, height, pixel):
+    """A 24-bit BMP; pixel(x, y) gives (r, g, b)."""
+    row = (width * 3 + 3) & ~3
+    body = bytearray()
+    for y in range(height - 1, -1, -1):
+        line = bytearray()
+        for x in range(width):
+            r, g, b = pixel(x, y)
+            line += bytes((b, g, r))
+        body += line + b'\0' * (row - len(line))
+    header = struct.pack('<2sIHHI', b'BM', 54 + len(body), 0, 0, 54)
+    info = struct.pack('<IiiHHIIiiII', 40, width, height, 1, 24, 0, len(body), 2835, 2835, 0, 0)
+    with open(path, 'wb') as f:
+        f.write(header + info + body)
+
+
+def background(x, y):
+    # Bands of colour that differ at every pixel, so a shift of one shows.
+    return ((x * 7) & 255, (y * 5) & 255, ((x + y) * 3) & 255)
+
+
+def solid(colour):
+    return lambda x, y: colour
+
+
+NORMAL, HOVER, PRESSED, QUIT = (200, 30, 30), (30, 200, 30), (30, 30, 200), (220, 200, 20)
+WIDTH, HEIGHT = 320, 200          # pixels; 15 twips each
+BUTTON = (20, 20, 40, 20)         # x, y, width, height in pixels
+QUIT_AT = (200, 150, 30, 30)
+TEXT_AT = (20, 100, 120, 40)
+
+
+def multi(text):
+    return text.replace('\n', '\u00a4')
+
+
+def project_text(shape=None, timer_script='Fenetre.Caption = "Tic"', click='MsgBox "Bonjour le monde"',
+                 texts=1, buttons=True, hover_script='', window_hover='', extra_buttons=0):
+    lines = ['FICHIER .QOR - COMPATIBLE QOR V2.0 ET +', 'Pour télécharger QOR', 'Merci.',
+             '[Format]', 'Editeur=QOR', 'Version=2.0.450', 'Fichier=1.1',
+             '[Auteur]', 'Essai', 'essai@example.org', '', 'Menu web',
+             '[Général]', 'fond.bmp', ' %d ' % (WIDTH * 15), ' %d ' % (HEIGHT * 15), ' 0 ',
+             '(Icône par défaut)', "'para3", '',
+             '[ParamsPlus]', '', ' 16777215 ', ' 1 ', ' 1 ', '200', multi(timer_script), '', ' 1 ', '', '',
+             '[Autre]', '', multi(window_hover)] + ["'para%d" % n for n in range(3, 16)]
+    if buttons:
+        lines += ['[Bouton]', ' %d ' % (BUTTON[0] * 15), ' %d ' % (BUTTON[1] * 15),
+                  'b_n.bmp', 'b_s.bmp', 'b_c.bmp', 'code', multi(click), multi(hover_script), ' 0 ', ' 0 ', "'para4",
+                  '[Bouton]', ' %d ' % (QUIT_AT[0] * 15), ' %d ' % (QUIT_AT[1] * 15),
+                  'q.bmp', 'q.bmp', 'q.bmp', 'quitter', '', '', ' 0 ', ' 0 ', "'para4"]
+    for n in range(extra_buttons):
+        lines += ['[Bouton]', ' %d ' % ((n % 10) * 30 * 15), ' %d ' % ((n // 10) * 20 * 15),
+                  'b_n.bmp', 'b_s.bmp', 'b_c.bmp', 'code', 'MsgBox %d' % n, '', ' 0 ', ' 0 ', "'para4"]
+    for n in range(texts):
+        x, y, w, h = TEXT_AT
+        lines += ['[Texte]', 'Un texte %d' % n, ' 16777215 ', ' 0 ', ' 0 ', ' 0 ', 'Arial', ' 9 ', ' 0 ', ' 0 ',
+                  ' %d ' % (y * 15), ' %d ' % (x * 15), ' %d ' % (w * 15), ' %d ' % (h * 15), '00',
+                  'para1', 'para2', 'para3', 'para4']
+    if shape:
+        lines.append('[FormeMenu]')
+        for x, y in shape:
+            lines += ['X=%d' % (x * 15), 'Y=%d' % (y * 15)]
+        lines.append('[/FormeMenu]')
+    return '\r\n'.join(lines) + '\r\n'
+
+
+def make_menu(work, name, **kw):
+    """A project folder with its pictures; kw as project_text takes them."""
+    folder = os.path.join(work, name)
+    os.makedirs(folder)
+    bmp(os.path.join(folder, 'fond.bmp'), WIDTH, HEIGHT, background)
+    for f, c in (('b_n', NORMAL), ('b_s', HOVER), ('b_c', PRESSED)):
+        bmp(os.path.join(folder, f + '.bmp'), BUTTON[2], BUTTON[3], solid(c))
+    bmp(os.path.join(folder, 'q.bmp'), QUIT_AT[2], QUIT_AT[3], solid(QUIT))
+    project = os.path.join(folder, 'menu.qor')
+    with open(project, 'wb') as f:
+        f.write(project_text(**kw).encode('cp1252'))
+    return project
+
+
+def export(program, project, out):
+    os.makedirs(out, exist_ok=True)
+    r = subprocess.run([os.path.join(program, 'qorc'), 'html', project, out + '/'], capture_output=True, text=True)
+    check('qorc html ' + project, r.returncode == 0, r.stderr)
+    return os.path.join(out, 'qor_menu2.htm')
+
+
+# ---- screenshots --------------------------------------------------------------
+
+def decode_png(data):
+    """(width, height, rows of (r, g, b)) of an 8-bit RGB or RGBA PNG."""
+    pos, chunks = 8, []
+    width = height = 0
+    channels = 3
+    while pos < len(data):
+        length, kind = struct.unpack('>I4s', data[pos:pos + 8])
+        body = data[pos + 8:pos + 8 + length]
+        if kind == b'IHDR':
+            width, height, depth, colour = struct.unpack('>IIBB', body[:10])
+            assert depth == 8 and colour in (2, 6), 'unexpected PNG'
+            channels = 4 if colour == 6 else 3
+        elif kind == b'IDAT':
+            chunks.append(body)
+        pos += 12 + length
+    raw = zlib.decompress(b''.join(chunks))
+    stride = width * channels
+    rows, prev = [], bytearray(stride)
+    for y in range(height):
+        f = raw[y * (stride + 1)]
+        line = bytearray(raw[y * (stride + 1) + 1:(y + 1) * (stride + 1)])
+        for i in range(stride):
+            a = line[i - channels] if i >= channels else 0
+            b = prev[i]
+            c = prev[i - channels] if i >= channels else 0
+            if f == 1:
+                line[i] = (line[i] + a) & 255
+            elif f == 2:
+                line[i] = (line[i] + b) & 255
+            elif f == 3:
+                line[i] = (line[i] + (a + b) // 2) & 255
+            elif f == 4:
+                p = a + b - c
+                pa, pb, pc = abs(p - a), abs(p - b), abs(p - c)
+                line[i] = (line[i] + (a if pa <= pb and pa <= pc else b if pb <= pc else c)) & 255
+        rows.append([tuple(line[x * channels:x * channels + 3]) for x in range(width)])
+        prev = line
+    return width, height, rows
+
+
+def shot(driver):
+    return decode_png(driver.get_screenshot_as_png())[2]
+
+
+def inside(x, y, rect):
+    return rect[0] <= x < rect[0] + rect[2] and rect[1] <= y < rect[1] + rect[3]
+
+
+def compare(rows, origin, expected, name, skip=()):
+    """Every pixel of the window against expected(x, y); None where cut."""
+    ox, oy = origin
+    wrong = []
+    for y in range(HEIGHT):
+        for x in range(WIDTH):
+            if any(inside(x, y, r) for r in skip):
+                continue
+            want = expected(x, y)
+            got = rows[oy + y][ox + x]
+            if got != want:
+                wrong.append((x, y, got, want))
+    check(name, not wrong, '%d pixels differ, first %s' % (len(wrong), wrong[:3]))
+
+
+# ---- the browser ---------------------------------------------------------------
+
+def start_browser(profile):
+    try:
+        from selenium import webdriver
+        from selenium.webdriver.chrome.service import Service
+    except ImportError as e:
+        print('FAILED: python3-selenium is missing (%s); tools/install-deps.sh installs it' % e)
+        sys.exit(1)
+    options = webdriver.ChromeOptions()
+    options.binary_location = shutil.which('chromium') or '/usr/bin/chromium'
+    for a in ('--headless', '--no-sandbox', '--disable-gpu', '--no-first-run', '--disable-background-networking',
+              '--disable-component-update', '--disable-sync', '--window-size=640,480', '--hide-scrollbars',
+              '--force-device-scale-factor=1', '--allow-file-access-from-files=false',
+              '--autoplay-policy=no-user-gesture-required', '--user-data-dir=' + profile):
+        options.add_argument(a)
+    try:
+        return webdriver.Chrome(service=Service(shutil.which('chromedriver') or '/usr/bin/chromedriver'),
+                                options=options)
+    except Exception as e:  # the reason is the whole message
+        print('FAILED: headless Chromium could not start: %s' % e)
+        sys.exit(1)
+
+
+def wait(driver, script, what, seconds=20):
+    end = time.time() + seconds
+    while time.time() < end:
+        value = driver.execute_script(script)
+        if value:
+            return value
+        time.sleep(0.05)
+    check(what, False, '(waited %ss for: %s)' % (seconds, script))
+    return None
+
+
+def open_menu(driver, page):
+    driver.get('file://' + page)
+    return wait(driver, "return document.body.getAttribute('data-qor') === 'shown'", 'menu shown ' + page)
+
+
+def window_origin(driver):
+    r = driver.execute_script("var r = document.getElementById('qor-window').getBoundingClientRect();"
+                              "return [r.left, r.top, r.width, r.height, innerWidth, innerHeight];")
+    return r
+
+
+# Runs one statement in the page's player; any box it opens is answered with
+# its first button, as a visitor would.
+RUN_STATEMENT = """
+var done = arguments[arguments.length - 1];
+var answer = setInterval(function () {
+  var b = document.querySelector('.qor-box-buttons button'); if (b) b.click(); }, 5);
+Promise.resolve(qorCore.ccall('qor_run_statement', 'string', ['string'], [arguments[0]], {async: true}))
+  .then(function (r) { clearInterval(answer); done(r); }, function (e) { clearInterval(answer); done('JS ' + e); });
+"""
+
+
+def main():
+    program, statements_program = sys.argv[1], sys.argv[2]
+    work = tempfile.mkdtemp(prefix='qor-web-')
+    driver = None
+    try:
+        from selenium.webdriver.common.action_chains import ActionChains
+        from selenium.webdriver.common.by import By
+
+        plain = export(program, make_menu(work, 'plain', texts=2), os.path.join(work, 'out plain'))
+        # The one file of the CD the assistant's statements name, as text and
+        # as a picture: given to the page like the menu's own files.
+        picture = os.path.join(work, 'any.bmp')
+        bmp(picture, 32, 32, solid(NORMAL))
+        with open(picture, 'rb') as f, open(os.path.join(work, 'out plain', 'qor_menu2', 'menu.js'), 'a') as js:
+            js.write('window.QOR_MENU.cd = {"mon dossier/fichier 1.txt": "%s"};\n' % base64.b64encode(f.read()).decode())
+        # The launcher is written beside the page, as before.
+        check('launcher beside the page', os.path.isfile(os.path.join(work, 'out plain', 'index.htm')))
+        triangle = [(0, 0), (WIDTH, 0), (0, HEIGHT)]
+        cut = export(program, make_menu(work, 'cut', shape=triangle, texts=0), os.path.join(work, 'out cut'))
+
+        driver = start_browser(os.path.join(work, 'profile'))
+        driver.set_script_timeout(30)
+
+        # The window: its size in CSS pixels, centred, the background and the
+        # buttons where they stand, pixel for pixel (the text box aside: fonts).
+        open_menu(driver, plain)
+        left, top, w, h, vw, vh = window_origin(driver)
+        check('window size', (w, h) == (WIDTH, HEIGHT), (w, h))
+        check('window centred', (left, top) == ((vw - WIDTH) // 2, (vh - HEIGHT) // 2), (left, top, vw, vh))
+        origin = (int(left), int(top))
+
+        def looks(button_colour):
+            def expected(x, y):
+                if inside(x, y, BUTTON):
+                    return button_colour
+                if inside(x, y, QUIT_AT):
+                    return QUIT
+                return background(x, y)
+            return expected
+
+        time.sleep(0.2)
+        compare(shot(driver), origin, looks(NORMAL), 'background and buttons', skip=[TEXT_AT])
+
+        # Hover shows the hover picture; a click runs the button's script.
+        button = driver.find_elements(By.CSS_SELECTOR, '.qor-button')[0]
+        ActionChains(driver).move_to_element(button).perform()
+        wait(driver, "return document.querySelectorAll('.qor-button')[0].src !== ''", 'hover')
+        time.sleep(0.2)
+        compare(shot(driver), origin, looks(HOVER), 'hover picture', skip=[TEXT_AT])
+        button.click()
+        text = wait(driver, "var b = document.querySelector('.qor-box-text'); return b && b.textContent", 'box opens')
+        check('click shows the MsgBox text', text == 'Bonjour le monde', text)
+        driver.find_element(By.CSS_SELECTOR, '.qor-box-buttons button').click()
+        wait(driver, "return !document.querySelector('.qor-box')", 'box closes')
+
+        # The timer's script changes the caption.
+        wait(driver, "return document.title === 'Tic'", 'timer changes the caption')
+
+        # A quit button closes the menu.
+        driver.find_elements(By.CSS_SELECTOR, '.qor-button')[1].click()
+        wait(driver, "return document.body.getAttribute('data-qor') === 'closed'", 'quit closes')
+
+        # The window's outline: outside the triangle the page shows through.
+        open_menu(driver, cut)
+        left, top = window_origin(driver)[:2]
+        time.sleep(0.2)
+
+        def cut_look(x, y):
+            if x + 0.5 + (y + 0.5) * WIDTH / HEIGHT > WIDTH:   # centre beyond the slanted side
+                return (255, 255, 255)
+            return looks(NORMAL)(x, y)
+        # The slanted edge itself is left to the browser's rounding.
+        edge = [(x, y, 1, 1) for y in range(HEIGHT) for x in range(WIDTH)
+                if abs(x + 0.5 + (y + 0.5) * WIDTH / HEIGHT - WIDTH) < 2]
+        compare(shot(driver), (int(left), int(top)), cut_look, 'shape cut', skip=edge)
+
+        # Every statement of the script assistant runs without error.
+        open_menu(driver, plain)
+        out = subprocess.run([statements_program], capture_output=True, text=True)
+        check('assistant statements listed', out.returncode == 0, out.stderr)
+        blocks = [b.strip('\n') for b in out.stdout.split('\n\f\n') if b.strip()]
+        check('97 statements', len(blocks) == 97, len(blocks))
+        for block in blocks:
+            error = driver.execute_async_script(RUN_STATEMENT, block)
+            check('statement runs', error == '', '%r -> %r' % (block, error))
+    finally:
+        if driver:
+            driver.quit()
+        shutil.rmtree(work, ignore_errors=True)
+    if FAILURES:
+        print('%d check(s) failed' % len(FAILURES))
+        return 1
+    print('all checks passed')
+    return 0
+
+
+if __name__ == '__main__':
+    sys.exit(main())
