@@ -1,7 +1,8 @@
 # The browser player's own build tree, compiled to WebAssembly with
 # emscripten: only the libraries the player stands on, small rather than
 # fast, and the engine's loop benchmark beside it.
-add_compile_options(-Os -ffunction-sections -fdata-sections -fexceptions)
+set(QOR_WEB_OPTIMISE -Os CACHE STRING "The optimisation of the browser player's code")
+add_compile_options(${QOR_WEB_OPTIMISE} -ffunction-sections -fdata-sections -fexceptions)
 add_link_options(-fexceptions)
 
 add_subdirectory(src/text)
@@ -16,6 +17,6 @@ if(QOR_BUILD_BENCH)
   target_link_libraries(script_loops PRIVATE qorscript)
   # Loops measure the engine as the page runs it: the same optimisation,
   # exceptions and Asyncify instrumentation.
-  target_link_options(script_loops PRIVATE -Os -sTOTAL_STACK=8MB -sALLOW_MEMORY_GROWTH=1 -sENVIRONMENT=node,web -sSINGLE_FILE=1 -sASYNCIFY=1)
+  target_link_options(script_loops PRIVATE ${QOR_WEB_OPTIMISE} -sTOTAL_STACK=8MB -sALLOW_MEMORY_GROWTH=1 -sENVIRONMENT=node,web -sSINGLE_FILE=1 -sASYNCIFY=1)
   qor_warnings(script_loops)
 endif()

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The browser player's targets, in headless Chromium beside their yardsticks.
 
-    web_bench.py BUILD_FOLDER
+    web_bench.py BUILD_FOLDER [size] [frame] [loops]     (all three without a word)
 
 - first frame: a 99-button, 50-text menu exported by qorc html and opened
   from its folder, against a page showing the same background picture alone;
@@ -23,61 +23,71 @@ import web_player_test as menus  # noqa: E402  (the test's menu writer and brows
 
 
 def first_frame(driver, url, flag):
-    best = None
-    for _ in range(5):
-        driver.get('about:blank')
-        driver.get(url)
-        t = menus.wait(driver, 'return window.%s' % flag, 'first frame of ' + url, 60)
-        if t is not None:
-            best = t if best is None else min(best, t)
-    return best
+    driver.get('about:blank')
+    driver.get(url)
+    return menus.wait(driver, 'return window.%s' % flag, 'first frame of ' + url, 60)
 
 
 def main():
     build = sys.argv[1]
+    wanted = set(sys.argv[2:]) or {'size', 'frame', 'loops'}
     program = os.path.join(build, 'program')
     work = tempfile.mkdtemp(prefix='qor-web-bench-')
     driver = None
     try:
         player = os.path.join(program, 'web', 'qor_player.js')
-        raw = open(player, 'rb').read()
-        compil = os.path.getsize(os.path.join(program, 'compil.exe'))
-        print('size: qor_player.js %d bytes, gzip -9 %d bytes; front.js %d bytes; compil.exe %d bytes' % (
-            len(raw), len(gzip.compress(raw, 9)), os.path.getsize(os.path.join(program, 'web', 'front.js')), compil))
-
-        project = menus.make_menu(work, 'big', texts=50, extra_buttons=97)
-        page = menus.export(program, project, os.path.join(work, 'out'))
-        alone = os.path.join(work, 'out', 'alone.htm')
-        with open(alone, 'w') as f:
-            f.write('<!DOCTYPE html><html><body style="margin:0">'
-                    '<img src="qor_menu2/fond.bmp" onload="requestAnimationFrame(function () {'
-                    ' window.shownAt = performance.now(); })"></body></html>')
+        if 'size' in wanted:
+            raw = open(player, 'rb').read()
+            compil = os.path.getsize(os.path.join(program, 'compil.exe'))
+            print('size: qor_player.js %d bytes, gzip -9 %d bytes; front.js %d bytes; compil.exe %d bytes' % (
+                len(raw), len(gzip.compress(raw, 9)), os.path.getsize(os.path.join(program, 'web', 'front.js')), compil))
         driver = menus.start_browser(os.path.join(work, 'profile'))
-        menu_ms = first_frame(driver, 'file://' + page, 'qorFirstFrame')
-        alone_ms = first_frame(driver, 'file://' + alone, 'shownAt')
-        print('first frame: menu %.1f ms, background alone %.1f ms, ratio %.2f' % (menu_ms, alone_ms, menu_ms / alone_ms))
-
-        loops_js = os.path.join(build, 'web', 'script_loops.js')
-        loops_page = os.path.join(work, 'loops.htm')
-        with open(loops_page, 'w') as f:
-            f.write('<!DOCTYPE html><html><body><script>window.lines = [];'
-                    'var Module = { arguments: ["3"], print: function (l) { window.lines.push(l); },'
-                    ' onExit: function () { window.loopsDone = true; } };</script>'
-                    '<script src="file://%s"></script></body></html>' % loops_js)
-        driver.get('file://' + loops_page)
-        menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 600)
-        web = dict(l.split() for l in driver.execute_script('return window.lines'))
-        native_out = subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
-                                    text=True).stdout
-        native = dict(l.split() for l in native_out.split('\n') if l.strip())
-        for name in ('NumLoop', 'BigLoop', 'StrLoop', 'CallLoop'):
-            w, n = float(web[name]), float(native[name])
-            print('loop %-8s browser %8.1f ms, native %8.1f ms, ratio %.2f' % (name, w, n, w / n))
+        if 'frame' in wanted:
+            frame(driver, program, work)
+        if 'loops' in wanted:
+            loops(driver, build, work)
     finally:
         if driver:
             driver.quit()
         shutil.rmtree(work, ignore_errors=True)
     return 1 if menus.FAILURES else 0
+
+
+def frame(driver, program, work):
+    project = menus.make_menu(work, 'big', texts=50, extra_buttons=97)
+    page = menus.export(program, project, os.path.join(work, 'out'))
+    alone = os.path.join(work, 'out', 'alone.htm')
+    with open(alone, 'w') as f:
+        f.write('<!DOCTYPE html><html><body style="margin:0">'
+                '<img src="qor_menu2/fond.bmp" onload="requestAnimationFrame(function () {'
+                ' window.shownAt = performance.now(); })"></body></html>')
+    # Side by side: one of each in turn, the best of five each.
+    menu_ms = alone_ms = None
+    for _ in range(5):
+        m = first_frame(driver, 'file://' + page, 'qorFirstFrame')
+        a = first_frame(driver, 'file://' + alone, 'shownAt')
+        menu_ms = m if menu_ms is None else min(menu_ms, m)
+        alone_ms = a if alone_ms is None else min(alone_ms, a)
+    print('first frame: menu %.1f ms, background alone %.1f ms, ratio %.2f' % (menu_ms, alone_ms, menu_ms / alone_ms))
+
+
+def loops(driver, build, work):
+    loops_js = os.path.join(build, 'web', 'script_loops.js')
+    loops_page = os.path.join(work, 'loops.htm')
+    with open(loops_page, 'w') as f:
+        f.write('<!DOCTYPE html><html><body><script>window.lines = [];'
+                'var Module = { arguments: ["3"], print: function (l) { window.lines.push(l); },'
+                ' onExit: function () { window.loopsDone = true; } };</script>'
+                '<script src="file://%s"></script></body></html>' % loops_js)
+    driver.get('file://' + loops_page)
+    menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 600)
+    web = dict(l.split() for l in driver.execute_script('return window.lines'))
+    native_out = subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
+                                text=True).stdout
+    native = dict(l.split() for l in native_out.split('\n') if l.strip())
+    for name in ('NumLoop', 'BigLoop', 'StrLoop', 'CallLoop'):
+        w, n = float(web[name]), float(native[name])
+        print('loop %-8s browser %8.1f ms, native %8.1f ms, ratio %.2f' % (name, w, n, w / n))
 
 
 if __name__ == '__main__':

@@ -1,10 +1,13 @@
 #include "core/build/web_menu.h"
 
+#include <cmath>
+#include <cstdio>
 #include <set>
 
 #include "core/build/compile_plan.h"
 #include "core/build/compile_request.h"
 #include "core/build/menu_data_file.h"
+#include "model/menu_data_layout.h"
 #include "text/text_helpers.h"
 
 namespace qor {
@@ -46,6 +49,35 @@ std::string jsString(std::string_view s)
     return out + "\"";
 }
 
+std::string number(double v)
+{
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%.9g", std::isfinite(v) ? v : 0.0);
+    return buf;
+}
+
+// Positions in twips, as the data holds them: the page rounds them as the
+// player does.
+std::string previewScript(const MenuProject& project)
+{
+    std::string out = "{width:" + number(project.width) + ",height:" + number(project.height) +
+                      ",fullScreen:" + (project.fullScreen ? "true" : "false") +
+                      ",backColor:" + std::to_string(std::uint32_t(project.backgroundColor)) +
+                      ",image:" + jsString(project.backgroundImage.empty() ? "" : fileNameOf(project.backgroundImage)) +
+                      ",buttons:[";
+    bool first = true;
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
+        const MenuButton& b = project.button(n);
+        if (b.kind == button_kind::deleted || b.normalImage.empty())
+            continue;
+        const std::string suffix(b.transparent ? menu_data_layout::kTransparentSuffix : std::string_view());
+        out += first ? "" : ",";
+        first = false;
+        out += "[" + number(b.left) + "," + number(b.top) + "," + jsString(fileNameOf(b.normalImage) + suffix) + "]";
+    }
+    return out + "]}";
+}
+
 }  // namespace
 
 bool embeddedInWebMenu(const std::string& name)
@@ -56,10 +88,11 @@ bool embeddedInWebMenu(const std::string& name)
     return false;
 }
 
-std::string webMenuScript(const std::string& dataName, const std::vector<std::pair<std::string, std::string>>& files)
+std::string webMenuScript(const MenuProject& project, const std::string& dataName,
+                          const std::vector<std::pair<std::string, std::string>>& files)
 {
     std::string out = "window.QOR_MENU={folder:" + jsString(kWebFolderName) + ",data:" + jsString(dataName) +
-                      ",files:{";
+                      ",\npreview:" + previewScript(project) + ",\nfiles:{";
     bool first = true;
     for (const auto& [name, bytes] : files) {
         out += first ? "\n" : ",\n";
@@ -107,7 +140,7 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     if (!dataBytes)
         return Status(dataBytes.error());
     embedded.emplace_back(kDataName, std::move(*dataBytes));
-    if (Status s = files.writeFile(folder + "menu.js", webMenuScript(kDataName, embedded)); !s)
+    if (Status s = files.writeFile(folder + "menu.js", webMenuScript(project, kDataName, embedded)); !s)
         return s;
 
     const std::string player = programFolder + "web/";

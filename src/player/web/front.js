@@ -70,13 +70,21 @@
     return null;
   }
 
+  var blobs = {};
+  function blobOf(k) {
+    if (!(k in blobs)) {
+      var f = fileOf(k);
+      var type = f && pictureType(f.bytes);
+      blobs[k] = type ? URL.createObjectURL(new Blob([f.bytes], { type: type })) : null;
+    }
+    return blobs[k];
+  }
+
   function loadImages() {
     var waits = [];
     Object.keys(page.files).forEach(function (k) {
-      var f = fileOf(k);
-      var type = pictureType(f.bytes);
-      if (!type) return;
-      var url = URL.createObjectURL(new Blob([f.bytes], { type: type }));
+      var url = blobOf(k);
+      if (!url) return;
       var img = new Image();
       waits.push(new Promise(function (done) {
         img.onload = function () { page.images[k] = { url: url, img: img, w: img.naturalWidth, h: img.naturalHeight }; done(); };
@@ -147,6 +155,11 @@
   // ---- the window ---------------------------------------------------------------
 
   function build() {
+    if (el.window) {
+      // The preview's window stays, its background already decoded.
+      el.back.querySelectorAll('.qor-button, .qor-text').forEach(function (n) { n.remove(); });
+      return;
+    }
     el.window = document.getElementById('qor-window');
     el.window.innerHTML = '';
     el.cut = document.createElement('div');
@@ -234,7 +247,10 @@
     var image = imageOf(w.backgroundImage);
     el.backImage.style.display = image ? 'block' : 'none';
     if (image) {
-      if (el.backImage.src !== image.url) el.backImage.src = image.url;
+      if (el.backImage.getAttribute('data-path') !== key(w.backgroundImage)) {
+        el.backImage.src = image.url;
+        el.backImage.setAttribute('data-path', key(w.backgroundImage));
+      }
       el.backImage.style.width = w.stretch ? '100%' : image.w + 'px';
       el.backImage.style.height = w.stretch ? '100%' : image.h + 'px';
     }
@@ -508,7 +524,7 @@
       makeTexts(0);
       setTimer(scene.timer);
       document.body.setAttribute('data-qor', 'shown');
-      requestAnimationFrame(function () { window.qorFirstFrame = performance.now(); });
+      firstFrame();
     },
     window: drawWindow,
     button: function (c) { drawButton(c.index, c.button); },
@@ -598,11 +614,72 @@
 
   // ---- start --------------------------------------------------------------------
 
+  // Twips to pixels, halves to even, as the player rounds them.
+  function px(twips) {
+    var v = Math.max(-32767, Math.min(32767, (Number(twips) || 0) / 15));
+    var f = Math.floor(v), d = v - f;
+    return d > 0.5 || (d === 0.5 && f % 2 !== 0) ? f + 1 : f;
+  }
+
+  function firstFrame() {
+    if (!window.qorFirstFrame) requestAnimationFrame(function () { window.qorFirstFrame = performance.now(); });
+  }
+
+  // The window as the player first shows it, painted while the player
+  // compiles and the pictures decode; the player's own scene replaces it.
+  function paintPreview(p) {
+    build();
+    var width = p.fullScreen ? window.innerWidth : Math.max(1, px(p.width));
+    var height = p.fullScreen ? window.innerHeight : Math.max(1, px(p.height));
+    var s = el.window.style;
+    s.width = width + 'px';
+    s.height = height + 'px';
+    s.left = Math.max(0, Math.floor((window.innerWidth - width) / 2)) + 'px';
+    s.top = Math.max(0, Math.floor((window.innerHeight - height) / 2)) + 'px';
+    el.back.style.backgroundColor = css(p.backColor);
+    el.border.style.display = 'none';
+    p.buttons.forEach(function (b) {
+      var url = urlOf(FOLDER + b[2]);
+      if (!fileOf(FOLDER + b[2])) return;
+      var node = document.createElement('img');
+      node.className = 'qor-button';
+      node.src = url;
+      node.style.left = px(b[0]) + 'px';
+      node.style.top = px(b[1]) + 'px';
+      el.back.appendChild(node);
+    });
+    // The background comes from its own file, as a plain page would show it;
+    // the player keeps that picture when its scene names the same one.
+    if (!p.image || !fileOf(FOLDER + p.image)) return firstFrame();
+    el.backImage.onload = firstFrame;
+    el.backImage.onerror = firstFrame;
+    el.backImage.style.width = '100%';
+    el.backImage.style.height = '100%';
+    el.backImage.src = urlOf(FOLDER + p.image);
+    el.backImage.setAttribute('data-path', key(FOLDER + p.image));
+  }
+  if (menu.preview) paintPreview(menu.preview);
+
   window.addEventListener('resize', function () { if (page.scene && page.scene.window) layout(); });
 
-  loadImages().then(function () {
-    return QorPlayer({ qorPage: pageSide });
-  }).then(function (module) {
+  // The player compiles while the pictures decode: the menu starts once both are ready.
+  var started = performance.now();
+  // The player's script (a megabyte) loads after this one, so the preview
+  // is on screen while it is read and compiled.
+  function loadPlayer() {
+    return new Promise(function (done, fail) {
+      var script = document.createElement('script');
+      script.src = encodeURIComponent(menu.folder) + '/qor_player.js';
+      script.onload = done;
+      script.onerror = function () { fail(new Error('qor_player.js')); };
+      document.body.appendChild(script);
+    }).then(function () { return QorPlayer({ qorPage: pageSide }); });
+  }
+
+  Promise.all([loadPlayer().then(function (m) { window.qorCompiled = performance.now(); return m; }),
+               loadImages().then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
+    window.qorFrontStart = started;
+    var module = ready[0];
     core = module;
     window.qorCore = core;
     send('qor_start', ['string'], [FOLDER + menu.data]);
