@@ -77,10 +77,12 @@ def loops(driver, build, work):
     with open(loops_page, 'w') as f:
         f.write('<!DOCTYPE html><html><body><script>window.lines = [];'
                 'var Module = { arguments: ["3"], print: function (l) { window.lines.push(l); },'
-                ' onExit: function () { window.loopsDone = true; } };</script>'
+                ' };</script>'
                 '<script src="file://%s"></script></body></html>' % loops_js)
+    # The loops run as the page loads: the load ends when they do.
+    driver.set_page_load_timeout(900)
     driver.get('file://' + loops_page)
-    menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 600)
+    menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 60)
     web = dict(l.split() for l in driver.execute_script('return window.lines'))
     native_out = subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
                                 text=True).stdout

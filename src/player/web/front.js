@@ -200,13 +200,10 @@
   // it can still be seen and closed.
   function applyCut() {
     var w = page.scene.window;
-    var polygon = 'none';
-    if (w.shape.length >= 6) {
-      var pts = [];
-      for (var i = 0; i < w.shape.length; i += 2) pts.push(w.shape[i] + 'px ' + w.shape[i + 1] + 'px');
-      polygon = 'polygon(nonzero, ' + pts.join(',') + ')';
-    }
-    el.window.style.clipPath = polygon;
+    var runs = [];
+    for (var i = 0; i + 2 < w.shape.length; i += 3)
+      runs.push('M' + w.shape[i] + ' ' + w.shape[i + 1] + 'h' + w.shape[i + 2] + 'v1h' + -w.shape[i + 2] + 'z');
+    el.window.style.clipPath = runs.length ? "path('" + runs.join('') + "')" : 'none';
     var image = imageOf(w.transparencyImage);
     el.cut.style.clipPath = image ? imageCut(image, w.width, w.height) : 'none';
   }
@@ -350,7 +347,7 @@
   // Thousands of text boxes: the window comes at once, the boxes batch by
   // batch between frames, so the page answers meanwhile.
   function makeTexts(from) {
-    var end = Math.min(page.scene.texts.length, from + 200);
+    var end = Math.min(page.scene.texts.length, from + 100);
     for (var i = from; i < end; ++i) {
       page.texts[i] = makeText(i);
       drawText(i, page.scene.texts[i]);

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "model/shape_region.h"
 #include "player/core/command_line.h"
 #include "player/core/menu_place.h"
 #include "player/core/pixels.h"
@@ -82,11 +83,18 @@ std::string cursorJson(const CursorChoice& c)
 
 std::string windowJson(const WindowScene& w)
 {
+    // The outline as the rows of pixels it keeps, by the rule the other
+    // players cut with: the page clips to exactly those, and a long outline
+    // becomes a few runs per row rather than a polygon to fill at every paint.
     std::string shape = "[";
-    for (std::size_t i = 0; i < w.shape.size(); ++i) {
-        if (i)
-            shape += ',';
-        shape += std::to_string(w.shape[i].x) + ',' + std::to_string(w.shape[i].y);
+    if (!w.shape.empty()) {
+        const std::vector<qor::PixelRun> runs =
+            qor::polygonRuns(w.shape, std::max(1, px(w.width)), std::max(1, px(w.height)));
+        for (std::size_t i = 0; i < runs.size(); ++i) {
+            if (i)
+                shape += ',';
+            shape += std::to_string(runs[i].x) + ',' + std::to_string(runs[i].y) + ',' + std::to_string(runs[i].width);
+        }
     }
     shape += ']';
     return Json()
@@ -98,6 +106,7 @@ std::string windowJson(const WindowScene& w)
         .flag("stretch", w.stretch)
         .flag("borderVisible", w.borderVisible)
         .num("borderColor", w.borderColor).num("borderWidth", w.borderWidth).num("borderShape", w.borderShape)
+        .flag("outline", !w.shape.empty())
         .raw("shape", shape)
         .str("transparencyImage", w.transparencyImage)
         .flag("visible", w.visible)
@@ -338,6 +347,9 @@ EMSCRIPTEN_KEEPALIVE int qor_start(const char* menuFile)
     MenuPlace place = MenuPlace::of(menuFile, '/', "D");
     s.player = std::make_unique<Player>(std::get<qor::MenuData>(std::move(loaded)), std::move(place), s.view, s.media,
                                         s.system);
+    // Scripts run about ten times slower here than in the native players:
+    // a tenth of their budget stops an endless script after about as long.
+    s.player->setScriptStepBudget(kScriptStepBudget / 10);
     s.player->start();
     return 0;
 }
@@ -356,12 +368,6 @@ EMSCRIPTEN_KEEPALIVE const char* qor_run_statement(const char* source)
     if (!r.ok())
         out = scriptErrorText(*r.error, "test");
     return out.c_str();
-}
-
-EMSCRIPTEN_KEEPALIVE void qor_set_step_budget(double steps)
-{
-    if (session && session->player)
-        session->player->setScriptStepBudget(std::uint64_t(steps));
 }
 
 EMSCRIPTEN_KEEPALIVE void qor_enter(int i)

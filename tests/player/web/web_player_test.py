@@ -66,7 +66,7 @@ def multi(text):
 
 
 def project_text(shape=None, timer_script='Fenetre.Caption = "Tic"', click='MsgBox "Bonjour le monde"',
-                 texts=1, buttons=True, hover_script='', window_hover='', extra_buttons=0):
+                 texts=1, buttons=True, hover_script='', window_hover='', extra_buttons=0, renamed=None):
     lines = ['FICHIER .QOR - COMPATIBLE QOR V2.0 ET +', 'Pour télécharger QOR', 'Merci.',
              '[Format]', 'Editeur=QOR', 'Version=2.0.450', 'Fichier=1.1',
              '[Auteur]', 'Essai', 'essai@example.org', '', 'Menu web',
@@ -103,9 +103,21 @@ def make_menu(work, name, **kw):
     for f, c in (('b_n', NORMAL), ('b_s', HOVER), ('b_c', PRESSED)):
         bmp(os.path.join(folder, f + '.bmp'), BUTTON[2], BUTTON[3], solid(c))
     bmp(os.path.join(folder, 'q.bmp'), QUIT_AT[2], QUIT_AT[3], solid(QUIT))
+    text = project_text(**kw)
+    for old, new in kw.get('renamed', {}).items():
+        # The same picture under a hostile name; None: the file is absent,
+        # '' : it is there with no byte in it.
+        text = text.replace(old, new[0])
+        if new[1] is None:
+            continue
+        target = os.path.join(folder, new[0])
+        if new[1] == '':
+            open(target, 'wb').close()
+        else:
+            shutil.copy(os.path.join(folder, old), target)
     project = os.path.join(folder, 'menu.qor')
     with open(project, 'wb') as f:
-        f.write(project_text(**kw).encode('cp1252'))
+        f.write(text.encode('cp1252'))
     return project
 
 
@@ -238,6 +250,84 @@ Promise.resolve(qorCore.ccall('qor_run_statement', 'string', ['string'], [argume
 """
 
 
+def responsive(driver, what):
+    t = time.time()
+    driver.execute_script('return 1')
+    check(what + ': the page answers', time.time() - t < 2, '%.1f s' % (time.time() - t))
+
+
+def hostile(driver, program, work):
+    """Menus the other players also get: the page says what is wrong where
+    something is, and keeps answering."""
+    from selenium.webdriver.common.by import By
+
+    # Names with accents, blanks and quotes; a missing and an empty picture.
+    odd = make_menu(work, 'odd', texts=0, renamed={
+        'fond.bmp': ('fond d\'été "n°1".bmp', 'copy'), 'b_n.bmp': ('absent.bmp', None),
+        'b_s.bmp': ('vide é.bmp', '')})
+    page = export(program, odd, os.path.join(work, 'out odd'))
+    open_menu(driver, page)
+    left, top = window_origin(driver)[:2]
+    rows = shot(driver)
+    check('accented, quoted background shown', rows[int(top) + 60][int(left) + 150] == background(150, 60),
+          rows[int(top) + 60][int(left) + 150])
+    size = driver.execute_script("var r = document.querySelectorAll('.qor-button')[0].getBoundingClientRect();"
+                                 "return [r.width, r.height];")
+    check('unreadable button is a grey box', size == [75, 25] and
+          rows[int(top) + BUTTON[1] + 5][int(left) + BUTTON[0] + 5] == (212, 208, 200), size)
+
+    # Endless scripts in every event: each is stopped with its message.
+    endless = 'Do\nLoop'
+    menu = make_menu(work, 'endless', timer_script=endless, click=endless, hover_script=endless,
+                     window_hover=endless)
+    open_menu(driver, export(program, menu, os.path.join(work, 'out endless')))
+    for event in ('timer', 'hover', 'click'):
+        if event == 'hover':
+            from selenium.webdriver.common.action_chains import ActionChains
+            ActionChains(driver).move_to_element(driver.find_elements(By.CSS_SELECTOR, '.qor-button')[0]).perform()
+        elif event == 'click':
+            driver.execute_script("document.querySelectorAll('.qor-button')[0].dispatchEvent("
+                                  "new MouseEvent('mousedown', {bubbles: true, button: 0}));"
+                                  "document.querySelectorAll('.qor-button')[0].dispatchEvent("
+                                  "new MouseEvent('mouseup', {bubbles: true, button: 0}));")
+        text = wait(driver, "var b = document.querySelector('.qor-box-text'); return b && b.textContent",
+                    'endless %s script stopped' % event, 60)
+        check('endless %s script: its message' % event, bool(text) and 'n°18' in text, text)
+        responsive(driver, 'endless ' + event)
+        driver.execute_script("var b = document.querySelector('.qor-box-buttons button'); if (b) b.click();")
+
+    # Cut data: the page says the menu cannot be read, and shows no window.
+    with open(os.path.join(os.path.dirname(plain_page(work)), 'qor_menu2', 'menu.js')) as f:
+        script = f.read()
+    cut_dir = os.path.join(work, 'out cut data')
+    shutil.copytree(os.path.dirname(plain_page(work)), cut_dir)
+    start = script.index('"menu.dat":"') + len('"menu.dat":"')
+    end = script.index('"', start)
+    data = base64.b64decode(script[start:end])
+    with open(os.path.join(cut_dir, 'qor_menu2', 'menu.js'), 'w') as f:
+        f.write(script[:start] + base64.b64encode(data[:len(data) // 2]).decode() + script[end:])
+    driver.get('file://' + os.path.join(cut_dir, 'qor_menu2.htm'))
+    title = wait(driver, "var b = document.querySelector('.qor-box-title'); return b && b.textContent", 'cut data told')
+    check('cut data: an error box', title == 'Erreur !', title)
+
+    # 10 000 text boxes and a 100 000-point outline.
+    import math
+    outline = [(int(WIDTH / 2 + WIDTH / 2 * math.cos(k * 2 * math.pi / 100000)),
+                int(HEIGHT / 2 + HEIGHT / 2 * math.sin(k * 2 * math.pi / 100000))) for k in range(100000)]
+    big = make_menu(work, 'big', texts=10000, shape=outline)
+    open_menu(driver, export(program, big, os.path.join(work, 'out big')))
+    responsive(driver, '10 000 text boxes')
+    wait(driver, "return document.querySelectorAll('.qor-text').length === 10000", 'all text boxes made', 60)
+    corner = shot(driver)
+    left, top = window_origin(driver)[:2]
+    check('100 000-point outline cuts the corner', corner[int(top) + 2][int(left) + 2] == (255, 255, 255),
+          corner[int(top) + 2][int(left) + 2])
+
+
+def plain_page(work):
+    return os.path.join(work, 'out plain', 'qor_menu2.htm')
+
+
 def main():
     program, statements_program = sys.argv[1], sys.argv[2]
     work = tempfile.mkdtemp(prefix='qor-web-')
@@ -309,10 +399,9 @@ def main():
             if x + 0.5 + (y + 0.5) * WIDTH / HEIGHT > WIDTH:   # centre beyond the slanted side
                 return (255, 255, 255)
             return looks(NORMAL)(x, y)
-        # The slanted edge itself is left to the browser's rounding.
-        edge = [(x, y, 1, 1) for y in range(HEIGHT) for x in range(WIDTH)
-                if abs(x + 0.5 + (y + 0.5) * WIDTH / HEIGHT - WIDTH) < 2]
-        compare(shot(driver), (int(left), int(top)), cut_look, 'shape cut', skip=edge)
+        compare(shot(driver), (int(left), int(top)), cut_look, 'shape cut')
+
+        hostile(driver, program, work)
 
         # Every statement of the script assistant runs without error.
         open_menu(driver, plain)
