@@ -1,7 +1,9 @@
 # The browser player's own build tree, compiled to WebAssembly with
-# emscripten: only the libraries the player stands on, small rather than
-# fast, and the engine's loop benchmark beside it.
-set(QOR_WEB_OPTIMISE -Os CACHE STRING "The optimisation of the browser player's code")
+# emscripten: only the libraries the player stands on, and the engine's loop
+# benchmark beside it. -O2 rather than -Os: inlining spares the engine most
+# of its calls through JavaScript's exception trampolines (loops 1.3 to 3
+# times faster) for 4 KB more of script.
+set(QOR_WEB_OPTIMISE -O2 CACHE STRING "The optimisation of the browser player's code")
 add_compile_options(${QOR_WEB_OPTIMISE} -ffunction-sections -fdata-sections -fexceptions)
 add_link_options(-fexceptions)
 

@@ -2,9 +2,10 @@
 """The web menu in a real browser: menus exported by `qorc html`, opened from
 their folder (file://) in headless Chromium driven by chromedriver.
 
-    web_player_test.py PROGRAM_FOLDER STATEMENTS_PROGRAM [LINUX_SHOT_PROGRAM]
+    web_player_test.py PROGRAM_FOLDER STATEMENTS_PROGRAM
 
-PROGRAM_FOLDER is the staged program folder (qorc, qorbake, web/).
+PROGRAM_FOLDER is the staged program folder (qorc, qorbake, qorplayer, web/);
+the Linux player's screenshot is taken on X display :209 (Xvfb).
 STATEMENTS_PROGRAM prints every statement of the script assistant.
 A browser that cannot start fails the check, with the reason.
 """
@@ -250,6 +251,47 @@ Promise.resolve(qorCore.ccall('qor_run_statement', 'string', ['string'], [argume
 """
 
 
+def linux_window(program, autorun, display=':209'):
+    """The Linux player's window of a compiled menu, on a private X display
+    with no window manager: rows of (r, g, b), or None (the check fails)."""
+    xvfb = shutil.which('Xvfb')
+    if not xvfb or not shutil.which('xdotool') or not shutil.which('import'):
+        check('Linux player screenshot', False, 'Xvfb, xdotool and imagemagick are needed')
+        return None
+    env = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM='xcb')
+    server = subprocess.Popen([xvfb, display, '-screen', '0', '800x600x24'], stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL)
+    player = None
+    try:
+        time.sleep(1)
+        player = subprocess.Popen([os.path.join(program, 'qorplayer'), autorun], env=env, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL)
+        windows = []
+        for _ in range(100):
+            windows = subprocess.run(['xdotool', 'search', '--onlyvisible', '--class', 'qorplayer'], env=env,
+                                     capture_output=True, text=True).stdout.split()
+            if windows:
+                break
+            time.sleep(0.1)
+        if not windows:
+            check('Linux player screenshot', False, 'no qorplayer window on ' + display)
+            return None
+        time.sleep(0.5)
+        png = os.path.join(os.path.dirname(autorun), 'linux.png')
+        subprocess.run(['import', '-window', 'root', 'PNG24:' + png], env=env, check=True)
+        geometry = subprocess.run(['xdotool', 'getwindowgeometry', '--shell', windows[0]], env=env,
+                                  capture_output=True, text=True).stdout
+        g = dict(line.split('=') for line in geometry.split())
+        with open(png, 'rb') as f:
+            rows = decode_png(f.read())[2]
+        x, y = int(g['X']), int(g['Y'])
+        return [row[x:x + WIDTH] for row in rows[y:y + HEIGHT]]
+    finally:
+        if player:
+            player.kill()
+        server.kill()
+
+
 def responsive(driver, what):
     t = time.time()
     driver.execute_script('return 1')
@@ -348,7 +390,26 @@ def main():
         triangle = [(0, 0), (WIDTH, 0), (0, HEIGHT)]
         cut = export(program, make_menu(work, 'cut', shape=triangle, texts=0), os.path.join(work, 'out cut'))
 
+        # qorc build --web: the CD opens in a browser from its root too.
+        cd = os.path.join(work, 'cd')
+        os.makedirs(cd)
+        r = subprocess.run([os.path.join(program, 'qorc'), 'build', make_menu(work, 'on cd'), cd, '--web'],
+                           capture_output=True, text=True)
+        check('qorc build --web', r.returncode == 0 and all(
+            os.path.isfile(os.path.join(cd, f)) for f in ('Autorun.inf', 'index.htm', 'qor_menu2.htm',
+                                                         'qor/autorun.exe', 'qor_menu2/menu.js')), r.stderr)
+
+        linux = linux_window(program, os.path.join(cd, 'qor', 'autorun.exe'))
+
+        # The same menu in the browser and in the Linux player, pixel for
+        # pixel (the text box aside: the fonts are each system's own).
         driver = start_browser(os.path.join(work, 'profile'))
+        open_menu(driver, os.path.join(cd, 'qor_menu2.htm'))
+        if linux:
+            left, top = window_origin(driver)[:2]
+            time.sleep(0.2)
+            compare(shot(driver), (int(left), int(top)), lambda x, y: linux[y][x], 'browser as the Linux player',
+                    skip=[TEXT_AT])
         driver.set_script_timeout(30)
 
         # The window: its size in CSS pixels, centred, the background and the
