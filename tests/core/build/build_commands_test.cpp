@@ -169,6 +169,40 @@ TEST_F(BuildFixture, HtmlLauncherGoesWhereTheAnswerSays)
     EXPECT_EQ(dialogs.lastMessage().icon, MessageIcon::Critical);
 }
 
+TEST_F(BuildFixture, HtmlExportBakesThenWritesTheWebMenuBesideTheLauncher)
+{
+    files.addFile("/prog/web/qor_player.js", "PLAYER");
+    files.addFile("/prog/web/front.js", "FRONT");
+    files.addFile("/prog/web/page.htm", "<script src=\"@FOLDER@/menu.js\"></script>");
+    files.addFolder("/web");
+    dialogs.inputAnswers = {"/web/"};
+    flows().exportHtml();
+    EXPECT_EQ(view.events, Events{"bake"});
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_TRUE(files.hasFile("/web/index.htm"));
+    EXPECT_EQ(files.bytes("/web/qor_menu2.htm"), "<script src=\"qor_menu2/menu.js\"></script>");
+    EXPECT_EQ(files.bytes("/web/qor_menu2/qor_player.js"), "PLAYER");
+    // The pictures and sounds a CD gets, the transparent button's baked.
+    EXPECT_EQ(files.bytes("/web/qor_menu2/b2.png_transp.bmp"), "BMP b2.png");
+    EXPECT_EQ(files.bytes("/web/qor_menu2/clic.wav"), "RIFF");
+    auto menu = readMenuData(files.bytes("/web/qor_menu2/menu.dat"));
+    ASSERT_TRUE(std::holds_alternative<MenuData>(menu));
+    EXPECT_EQ(std::get<MenuData>(menu).info.projectName, "menu");
+    // Pictures travel inside menu.js, base64-coded; sounds stay files.
+    const std::string script = files.bytes("/web/qor_menu2/menu.js");
+    EXPECT_NE(script.find("\"b1.png\":\"UE5HIGIxLnBuZw==\""), std::string::npos);
+    EXPECT_NE(script.find("\"b2.png_transp.bmp\":\"Qk1QIGIyLnBuZw==\""), std::string::npos);
+    EXPECT_EQ(script.find("clic.wav"), std::string::npos);
+
+    // Without the browser player beside the editor: one message, naming the page.
+    files.addFolder("/w2");
+    ASSERT_TRUE(files.removeFile("/prog/web/front.js"));
+    dialogs.inputAnswers = {"/w2/"};
+    flows().exportHtml();
+    EXPECT_TRUE(files.hasFile("/w2/index.htm"));
+    EXPECT_EQ(dialogs.lastMessage().text.substr(0, 29), "La page '/w2/qor_menu2.htm' n");
+}
+
 TEST(HtmlLauncher, SizesAndLines)
 {
     struct Row {
