@@ -420,7 +420,9 @@
     [['Oui', 6], ['Non', 7], ['Annuler', 2]], [['Oui', 6], ['Non', 7]], [['Réessayer', 4], ['Annuler', 2]]];
   var ICONS = { 16: '\u26d4', 32: '?', 48: '\u26a0', 64: '\u2139' };
 
-  function box(title, text, buttons, field) {
+  // A modal box in the page: its answer is the button chosen and, for an
+  // input box, the text as it stood then.
+  function box(title, text, buttons, field, defaultButton) {
     return new Promise(function (answer) {
       var shade = document.createElement('div');
       shade.className = 'qor-shade';
@@ -448,7 +450,7 @@
       var finish = function (value) {
         document.removeEventListener('keydown', keys, true);
         shade.remove();
-        answer(value);
+        answer({ button: value, text: input ? input.value : null });
       };
       var nodes = buttons.map(function (b) {
         var n = document.createElement('button');
@@ -457,24 +459,30 @@
         row.appendChild(n);
         return n;
       });
+      // Escape is the box's cancel answer; Enter in the input box is OK.
       var keys = function (e) {
-        if (e.key === 'Escape') { e.preventDefault(); finish(buttons.length > 1 ? buttons[buttons.length - 1][1] : buttons[0][1]); }
+        if (e.key === 'Escape') { e.preventDefault(); finish(buttons[buttons.length - 1][1]); }
         else if (e.key === 'Enter' && input) { e.preventDefault(); finish(buttons[0][1]); }
       };
       document.addEventListener('keydown', keys, true);
       dialog.appendChild(row);
       shade.appendChild(dialog);
       document.body.appendChild(shade);
-      (input || nodes[box.defaultButton < nodes.length ? box.defaultButton : 0]).focus();
+      (input || nodes[defaultButton < nodes.length ? defaultButton : 0]).focus();
     });
   }
 
   function messageBox(r) {
     var set = r.buttons & 7;
     var buttons = BUTTON_SETS[set < 6 ? set : 0];
-    box.defaultButton = (r.buttons >> 8) & 3;
     var icon = ICONS[r.buttons & 0x70];
-    return box(r.title, (icon ? icon + '  ' : '') + r.text, buttons);
+    return box(r.title, (icon ? icon + '  ' : '') + r.text, buttons, undefined, (r.buttons >> 8) & 3)
+      .then(function (a) { return a.button; });
+  }
+
+  function inputBox(r) {
+    return box(r.title === undefined ? document.title : r.title, r.prompt, [['OK', 1], ['Annuler', 2]], r.defaultText, 0)
+      .then(function (a) { return a.button === 1 ? a.text : null; });
   }
 
   // What the browser cannot do for a menu: it is told once, in French.
@@ -591,23 +599,9 @@
     call: function (name, arg) { var f = calls[name]; return f ? f(arg) : 0; },
     fileSize: function (path) { var f = fileOf(path); return f ? f.bytes.length : -1; },
     fileRead: function (path, into) { core.HEAPU8.set(fileOf(path).bytes, into); },
-    messageBox: function (r) { return messageBox(r); },
-    inputBox: function (r) {
-      box.defaultButton = 0;
-      return box(r.title === undefined ? document.title : r.title, r.prompt, [['OK', 1], ['Annuler', 2]], r.defaultText)
-        .then(function (chosen) { return chosen === 1 ? page.inputValue : null; });
-    },
+    messageBox: messageBox,
+    inputBox: inputBox,
   };
-
-  // The input box's text is read as it closes.
-  document.addEventListener('click', function (e) {
-    var input = document.querySelector('.qor-box-input');
-    if (input && e.target.tagName === 'BUTTON') page.inputValue = input.value;
-  }, true);
-  document.addEventListener('keydown', function (e) {
-    var input = document.querySelector('.qor-box-input');
-    if (input && (e.key === 'Enter' || e.key === 'Escape')) page.inputValue = input.value;
-  }, true);
 
   // ---- start --------------------------------------------------------------------
 

@@ -464,8 +464,17 @@ def main():
 
         hostile(driver, program, work)
 
-        # Every statement of the script assistant runs without error.
+        # The boxes' answers reach the script: the first button is taken.
         open_menu(driver, plain)
+        for statement, caption in (
+                ('Fenetre.Caption = InputBox("Votre nom ?", "Titre", "Marie")', 'Marie'),
+                ('Fenetre.Caption = CStr(MsgBox("Continuer ?", vbYesNo + vbQuestion))', '6'),
+                ('Fenetre.Caption = CStr(MsgBox("Encore ?", vbAbortRetryIgnore))', '3')):
+            error = driver.execute_async_script(RUN_STATEMENT, statement)
+            title = driver.execute_script('return document.title')
+            check('box answer reaches the script', error == '' and title == caption, (statement, error, title))
+
+        # Every statement of the script assistant runs without error.
         out = subprocess.run([statements_program], capture_output=True, text=True)
         check('assistant statements listed', out.returncode == 0, out.stderr)
         blocks = [b.strip('\n') for b in out.stdout.split('\n\f\n') if b.strip()]
