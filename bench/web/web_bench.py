@@ -29,7 +29,7 @@ def first_frame(driver, url, flag):
 
 
 def main():
-    build = sys.argv[1]
+    build = os.path.abspath(sys.argv[1])
     wanted = set(sys.argv[2:]) or {'size', 'frame', 'loops'}
     program = os.path.join(build, 'program')
     work = tempfile.mkdtemp(prefix='qor-web-bench-')
@@ -83,7 +83,11 @@ def loops(driver, build, work):
     driver.set_page_load_timeout(900)
     driver.get('file://' + loops_page)
     menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 60)
-    web = dict(l.split() for l in driver.execute_script('return window.lines'))
+    lines = driver.execute_script('return window.lines')
+    web = dict(l.split() for l in lines if len(l.split()) == 2)
+    if len(web) < 4:
+        print('browser loops printed: %r' % lines)
+        return
     native_out = subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
                                 text=True).stdout
     native = dict(l.split() for l in native_out.split('\n') if l.strip())
