@@ -34,6 +34,8 @@ bench: build
 	@for b in $(BUILD)/bench/*_bench; do echo "== $$b"; $$b || exit 1; done
 	@if [ -x $(BUILD)/bench/win32_menu99 ]; then echo "== Windows player under wine"; \
 	  bash bench/win32/run_under_wine.sh $(BUILD); fi
+	@if [ -f $(BUILD)/program/web/qor_player.js ]; then echo "== web player in headless Chromium"; \
+	  /usr/bin/python3 bench/web/web_bench.py $(BUILD); fi
 
 fuzz:
 	@bash tools/install-deps.sh fuzz
