@@ -67,14 +67,15 @@ def multi(text):
 
 
 def project_text(shape=None, timer_script='Fenetre.Caption = "Tic"', click='MsgBox "Bonjour le monde"',
-                 texts=1, buttons=True, hover_script='', window_hover='', extra_buttons=0, renamed=None):
+                 texts=1, buttons=True, hover_script='', window_hover='', extra_buttons=0, renamed=None,
+                 transparency=''):
     lines = ['FICHIER .QOR - COMPATIBLE QOR V2.0 ET +', 'Pour télécharger QOR', 'Merci.',
              '[Format]', 'Editeur=QOR', 'Version=2.0.450', 'Fichier=1.1',
              '[Auteur]', 'Essai', 'essai@example.org', '', 'Menu web',
              '[Général]', 'fond.bmp', ' %d ' % (WIDTH * 15), ' %d ' % (HEIGHT * 15), ' 0 ',
              '(Icône par défaut)', "'para3", '',
              '[ParamsPlus]', '', ' 16777215 ', ' 1 ', ' 1 ', '200', multi(timer_script), '', ' 1 ', '', '',
-             '[Autre]', '', multi(window_hover)] + ["'para%d" % n for n in range(3, 16)]
+             '[Autre]', transparency, multi(window_hover)] + ["'para%d" % n for n in range(3, 16)]
     if buttons:
         lines += ['[Bouton]', ' %d ' % (BUTTON[0] * 15), ' %d ' % (BUTTON[1] * 15),
                   'b_n.bmp', 'b_s.bmp', 'b_c.bmp', 'code', multi(click), multi(hover_script), ' 0 ', ' 0 ', "'para4",
@@ -104,6 +105,8 @@ def make_menu(work, name, **kw):
     for f, c in (('b_n', NORMAL), ('b_s', HOVER), ('b_c', PRESSED)):
         bmp(os.path.join(folder, f + '.bmp'), BUTTON[2], BUTTON[3], solid(c))
     bmp(os.path.join(folder, 'q.bmp'), QUIT_AT[2], QUIT_AT[3], solid(QUIT))
+    # The transparency picture: white, so cut, on the window's right half.
+    bmp(os.path.join(folder, 'masque.bmp'), WIDTH, HEIGHT, lambda x, y: (255, 255, 255) if x >= WIDTH // 2 else (0, 0, 0))
     text = project_text(**kw)
     for old, new in kw.get('renamed', {}).items():
         # The same picture under a hostile name; None: the file is absent,
@@ -474,7 +477,21 @@ def main():
             title = driver.execute_script('return document.title')
             check('box answer reaches the script', error == '' and title == caption, (statement, error, title))
 
+        # The transparency picture's white cuts the window; the right
+        # button opens the context menu.
+        open_menu(driver, export(program, make_menu(work, 'mask', texts=0, transparency='masque.bmp'),
+                                 os.path.join(work, 'out mask')))
+        left, top = window_origin(driver)[:2]
+        time.sleep(0.2)
+        compare(shot(driver), (int(left), int(top)),
+                lambda x, y: (255, 255, 255) if x >= WIDTH // 2 else looks(NORMAL)(x, y), 'transparency cut')
+        ActionChains(driver).context_click(driver.find_element(By.CSS_SELECTOR, '.qor-back-image')).perform()
+        entries = wait(driver, "return Array.from(document.querySelectorAll('.qor-context-item'))"
+                               ".map(function (e) { return e.textContent; })", 'context menu')
+        check('context menu entries', bool(entries), entries)
+
         # Every statement of the script assistant runs without error.
+        open_menu(driver, plain)
         out = subprocess.run([statements_program], capture_output=True, text=True)
         check('assistant statements listed', out.returncode == 0, out.stderr)
         blocks = [b.strip('\n') for b in out.stdout.split('\n\f\n') if b.strip()]
