@@ -1,5 +1,6 @@
 #include "core/build/web_menu.h"
 
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <set>
@@ -78,6 +79,21 @@ std::string previewScript(const MenuProject& project)
     return out + "]}";
 }
 
+// A file name as a relative address: every byte but the unreserved ones
+// percent-encoded, as the page's script encodes them.
+std::string urlPath(std::string_view name)
+{
+    std::string out;
+    for (unsigned char c : name) {
+        if (std::isalnum(c) || c == '-' || c == '_' || c == '.' || c == '~' || c == '!' || c == '*' || c == '(' ||
+            c == ')' || c == '\'')
+            out += char(c);
+        else
+            out += '%' + std::string{"0123456789ABCDEF"[c >> 4], "0123456789ABCDEF"[c & 15]};
+    }
+    return out;
+}
+
 }  // namespace
 
 bool embeddedInWebMenu(const std::string& name)
@@ -150,10 +166,17 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     Result<std::string> page = files.readFile(player + kWebPageTemplate);
     if (!page)
         return Status(page.error());
+    // The background is fetched while the scripts load, as a page showing
+    // only that picture would.
+    std::string preload;
+    if (!project.backgroundImage.empty() && seen.count(lowerAscii(fileNameOf(project.backgroundImage))))
+        preload = "<link rel=\"preload\" as=\"image\" href=\"" + std::string(kWebFolderName) + "/" +
+                  urlPath(fileNameOf(project.backgroundImage)) + "\">";
     std::string text = std::move(*page);
-    const std::string marker = "@FOLDER@";
-    for (std::size_t at = text.find(marker); at != std::string::npos; at = text.find(marker, at))
-        text.replace(at, marker.size(), kWebFolderName);
+    for (const auto& [marker, value] : {std::pair<std::string, std::string>{"@FOLDER@", kWebFolderName},
+                                        {"@PRELOAD@", preload}})
+        for (std::size_t at = text.find(marker); at != std::string::npos; at = text.find(marker, at + value.size()))
+            text.replace(at, marker.size(), value);
     return files.writeFile(pageFolder + kWebPageName, text);
 }
 

@@ -530,6 +530,7 @@
       setTimer(scene.timer);
       document.body.setAttribute('data-qor', 'shown');
       firstFrame();
+      requestAnimationFrame(function () { window.qorSceneShown = performance.now(); });
     },
     window: drawWindow,
     button: function (c) { drawButton(c.index, c.button); },
@@ -631,7 +632,7 @@
     el.border.style.display = 'none';
     p.buttons.forEach(function (b) {
       var url = urlOf(FOLDER + b[2]);
-      if (!fileOf(FOLDER + b[2])) return;
+      if (!page.files[key(FOLDER + b[2])]) return;
       var node = document.createElement('img');
       node.className = 'qor-button';
       node.src = url;
@@ -641,7 +642,7 @@
     });
     // The background comes from its own file, as a plain page would show it;
     // the player keeps that picture when its scene names the same one.
-    if (!p.image || !fileOf(FOLDER + p.image)) return firstFrame();
+    if (!p.image || !page.files[key(FOLDER + p.image)]) return firstFrame();
     el.backImage.onload = firstFrame;
     el.backImage.onerror = firstFrame;
     el.backImage.style.width = '100%';
@@ -668,7 +669,9 @@
   }
 
   Promise.all([loadPlayer().then(function (m) { window.qorCompiled = performance.now(); return m; }),
-               loadImages().then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
+               // The pictures' bytes are decoded once the preview is on screen.
+               new Promise(function (painted) { requestAnimationFrame(function () { setTimeout(painted, 0); }); })
+                 .then(loadImages).then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
     window.qorFrontStart = started;
     var module = ready[0];
     core = module;
