@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <map>
@@ -10,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/build/build_messages.h"
 #include "core/build/compiler.h"
 #include "core/build/headless_project.h"
 #include "core/build/html_launcher.h"
@@ -214,12 +217,30 @@ bool Builder::bake()
     return true;
 }
 
+// True when target is empty or leads to the file system's root, through
+// links too: a compilation there would write beside the system's folders.
+bool isRootTarget(const std::string& target)
+{
+    if (target.empty() || isRootFolder(target))
+        return true;
+    char* real = ::realpath(target.c_str(), nullptr);
+    const bool root = real && std::string_view(real) == "/";
+    std::free(real);
+    return root;
+}
+
 int Builder::compileInto(const std::string& target)
 {
-    if (!bake())
+    if (isRootTarget(target)) {
+        dialogs_.message(incorrectFolderMessage());
         return kFailed;
+    }
     Compiler compiler(files_, dialogs_, state_);
-    const CompileOutcome outcome = compiler.compile(project_, request(target), {program_, true}, view_);
+    const CompileRequest r = request(target);
+    // Checked before the baker writes anything beside the pictures.
+    if (compiler.checkValues(project_, r) != CompileOutcome::Done || !bake())
+        return kFailed;
+    const CompileOutcome outcome = compiler.compile(project_, r, {program_, true}, view_);
     return outcome == CompileOutcome::Done ? kOk : kFailed;
 }
 

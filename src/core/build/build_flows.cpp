@@ -15,6 +15,10 @@ BuildFlows::BuildFlows(const MenuProject& project, BuildPorts ports, BuildSettin
 
 void BuildFlows::openCompileDialog()
 {
+    // The project's values are checked before anything is baked; the
+    // dialog's own fields when it compiles.
+    if (compiler_.checkValues(context_.project, CompileRequest{}) != CompileOutcome::Done)
+        return;
     context_.ports.baker.bakeAllButtons();
     context_.ports.view.discardCompileDialog();
     context_.ports.view.openCompileDialog(compileDefaults(context_.project, context_.ports.files.homeFolder()),
