@@ -97,9 +97,35 @@ Message unwritableValueMessage(const DataValueFault& fault)
                    "Compilation", MessageIcon::Exclamation};
 }
 
+namespace {
+
+// A button the data leaves out (one of its images missing, no kind) still
+// has its images copied: their names must make files of qor/ too.
+std::optional<DataValueFault> unwritableCopiedImage(const MenuProject& project)
+{
+    for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
+        const MenuButton& b = project.button(n);
+        if (b.kind == button_kind::deleted || b.normalImage.empty() || b.isSavable())
+            continue;
+        for (auto [field, stored] : {std::pair{"normalImage", &b.normalImage}, std::pair{"hoverImage", &b.hoverImage},
+                                     std::pair{"pressedImage", &b.pressedImage}}) {
+            const std::string name = fileNameOf(*stored);
+            if (stored->empty())
+                continue;   // the copy of nothing fails as it always has
+            if (auto problem = dataValueProblem(name, DataValueKind::FileName))
+                return DataValueFault{R::Button, n, field, name, *problem, DataValueKind::FileName};
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
 std::optional<DataValueFault> firstUnwritableValue(const MenuProject& project, const CompileRequest& request)
 {
     if (auto fault = findDataValueFault(project, MenuDataInfo{request.projectName, request.author}))
+        return fault;
+    if (auto fault = unwritableCopiedImage(project))
         return fault;
     if (!request.subMenu)
         return std::nullopt;

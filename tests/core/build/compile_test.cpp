@@ -271,6 +271,11 @@ TEST_F(BuildFixture, ValuesTheDataCannotCarryAreRefusedByName)
         {[](BuildWorld& f, CompileRequest&) { f.project.button(1).hoverImage = "/img/b\nc.png"; },
          "L'image de survol du bouton n°1"},
         {[&](BuildWorld& f, CompileRequest&) { f.project.globalScript = "Dim a" + sep; }, "Le code global"},
+        {[](BuildWorld& f, CompileRequest&) {   // left out of the data, but its images are copied
+             f.project.button(1).kind.clear();
+             f.project.button(1).pressedImage = "/img/";
+         },
+         "L'image du clic du bouton n°1 («  ») ne nomme aucun fichier"},
         {[](BuildWorld& f, CompileRequest&) { f.project.clickSound = "/proj/ウ.wav"; }, "Le son du clic"},
         {[](BuildWorld& f, CompileRequest&) { f.project.hoverSound = "/s/" + std::string(300, 'x') + ".wav"; },
          "Le son du survol"},
