@@ -79,7 +79,7 @@ CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest&
         return refuse(fileNameClashMessage(plan.clash->first, plan.clash->second), true);
     if (auto picture = firstUnreadablePicture(files_, project))
         return refuse(unreadablePictureMessage(*picture), true);
-    return request.subMenu ? checkSubMenu(request) : checkMainMenu(request.target);
+    return request.subMenu ? checkSubMenu(request, plan) : checkMainMenu(request.target);
 }
 
 CompileOutcome Compiler::checkMainMenu(const std::string& target)
@@ -99,7 +99,7 @@ CompileOutcome Compiler::checkMainMenu(const std::string& target)
     return CompileOutcome::Done;
 }
 
-CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
+CompileOutcome Compiler::checkSubMenu(const CompileRequest& request, const CompilePlan& plan)
 {
     if (!isPlainFileName(request.subMenuName))
         return refuse(badFileNameMessage(request.subMenuName, "Sous menu"), false);
@@ -109,10 +109,22 @@ CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
     if (kind != PathKind::Folder)
         return refuse(qorNotAFolderMessage(request.target), true);
     // On the CD's machines names differing only in letter case are one file.
+    const std::string qor = request.target + "qor/";
+    const std::vector<std::string> present = files_.entryNames(qor);
     const std::string exe = request.subMenuName + ".exe";
-    for (const std::string& name : files_.entryNames(request.target + "qor/"))
+    for (const std::string& name : present)
         if (equalsNoCase(name, exe))
             return refuse(subMenuExistsMessage(), false);
+    // A file shared with the menus already there is copied again, but never
+    // over one of their players, nor beside a name it would shadow.
+    for (const CompileAction& a : plan.actions) {
+        if (a.kind != CompileAction::Kind::Copy)
+            continue;
+        const std::string name = a.target.substr(qor.size());
+        for (const std::string& other : present)
+            if (equalsNoCase(other, name) && (other != name || endsWithNoCase(other, ".exe")))
+                return refuse(fileNameClashMessage(a.source, qor + other), true);
+    }
     return CompileOutcome::Done;
 }
 

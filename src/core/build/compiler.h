@@ -49,7 +49,7 @@ private:
     CompileOutcome check(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan,
                          const CompileEnvironment& env);
     CompileOutcome checkMainMenu(const std::string& target);
-    CompileOutcome checkSubMenu(const CompileRequest& request);
+    CompileOutcome checkSubMenu(const CompileRequest& request, const CompilePlan& plan);
     CompileOutcome refuse(const Message& message, bool setsFlag);
     Status run(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan, CompileView& view);
     Status perform(const CompileAction& action, const MenuProject& project, const CompileRequest& request,

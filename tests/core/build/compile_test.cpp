@@ -355,6 +355,33 @@ TEST_F(BuildFixture, UnreadablePicturesAreRefusedByName)
     }
 }
 
+TEST_F(BuildFixture, ASubMenuNeitherReplacesAPlayerNorShadowsAName)
+{
+    struct Row {
+        std::string present;   // in qor/ already
+        std::string shipped;   // the sub-menu's background
+        bool refused;
+    } rows[] = {{"/cd/qor/Fond.jpg", "/img/fond.jpg", true}, {"/cd/qor/autorun.exe", "/img/AUTORUN.EXE", true},
+                {"/cd/qor/fond.jpg", "/img/fond.jpg", false}};
+    for (const auto& row : rows) {
+        BuildWorld f;
+        f.files.addFile("/cd/qor/autorun.exe", "MAIN");
+        f.files.addFile(row.present, picture("MAIN"));
+        f.project.backgroundImage = row.shipped;
+        f.files.addFile(row.shipped, picture("SUB"));
+        f.files.log.clear();
+        CompileRequest r = f.request();
+        r.subMenu = true;
+        EXPECT_EQ(f.compile(r), row.refused ? CompileOutcome::Refused : CompileOutcome::Done) << row.shipped;
+        if (row.refused) {
+            EXPECT_EQ(f.dialogs.lastMessage(), fileNameClashMessage(row.shipped, row.present));
+            EXPECT_TRUE(f.files.log.empty());
+        } else {
+            EXPECT_EQ(f.files.bytes(row.present), picture("SUB"));   // shared, copied again
+        }
+    }
+}
+
 TEST_F(BuildFixture, OneFileNamedTwiceIsCopiedOnce)
 {
     MenuButton& b = addButton("code", "b3", false);
