@@ -172,29 +172,46 @@ void BM_CompileBesideCp(benchmark::State& state)
     const fs::path target = media.root / "cd";
     const fs::path copy = media.root / "cp";
     double compileTotal = 0, cpTotal = 0, peak = 0;
+    int round = 0;
     for (auto _ : state) {
         fs::remove_all(target);
         fs::remove_all(copy);
         fs::create_directories(target);
         fs::create_directories(copy);
-        ::sync();
-        const auto [cpSeconds, cpPeak] = inChild([&] {
-            std::string command = "cp " + (media.root / "proj").string() + "/*.jpg " + copy.string() + "/";
-            return std::system(command.c_str()) == 0 ? 0 : 1;
-        });
-        ::sync();
-        const auto [compileSeconds, compilePeak] = inChild([&] {
-            LocalFileSystem files;
-            YesDialogs dialogs;
-            BuildState flag;
-            HiddenCompileView view;
-            CompileRequest request;
-            request.target = target.string() + "/";
-            const auto outcome = Compiler(files, dialogs, flag)
-                                     .compile(media.project, request, {(media.root / "prog").string() + "/", true},
-                                              view);
-            return outcome == CompileOutcome::Done ? 0 : 1;
-        });
+        const auto runCp = [&] {
+            ::sync();
+            return inChild([&] {
+                std::string command = "cp " + (media.root / "proj").string() + "/*.jpg " + copy.string() + "/";
+                return std::system(command.c_str()) == 0 ? 0 : 1;
+            });
+        };
+        const auto runCompile = [&] {
+            ::sync();
+            return inChild([&] {
+                LocalFileSystem files;
+                YesDialogs dialogs;
+                BuildState flag;
+                HiddenCompileView view;
+                CompileRequest request;
+                request.target = target.string() + "/";
+                const auto outcome = Compiler(files, dialogs, flag)
+                                         .compile(media.project, request,
+                                                  {(media.root / "prog").string() + "/", true}, view);
+                return outcome == CompileOutcome::Done ? 0 : 1;
+            });
+        };
+        // The second writer pays for the first one's data still going to
+        // the disk: each goes first in turn.
+        std::pair<double, double> cpRun, compileRun;
+        if (round++ % 2 == 0) {
+            cpRun = runCp();
+            compileRun = runCompile();
+        } else {
+            compileRun = runCompile();
+            cpRun = runCp();
+        }
+        const auto [cpSeconds, cpPeak] = cpRun;
+        const auto [compileSeconds, compilePeak] = compileRun;
         if (compileSeconds < 0 || cpSeconds < 0) {
             state.SkipWithError("a copy failed");
             break;
@@ -217,7 +234,7 @@ BENCHMARK(BM_CompileBesideCp)
     ->Args({25, 4})
     ->Args({99, 3})
     ->UseManualTime()
-    ->Iterations(3)
+    ->Iterations(4)
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace
