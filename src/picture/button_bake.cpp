@@ -1,11 +1,11 @@
 #include "picture/button_bake.h"
 
-#include <QImageReader>
 
 #include "core/picture/bake_rules.h"
 #include "picture/bmp_file.h"
 #include "picture/colours.h"
 #include "picture/compose.h"
+#include "picture/picture_file.h"
 
 namespace qor {
 
@@ -16,8 +16,7 @@ BakeOutcome bakeButton(const MenuProject& project, int number, const ScreenMetri
     const MenuButton& button = project.button(number);
     const QRgb key = toQColor(button.transparentColor, palette).rgb();
     for (const BakeStep& step : bakeSteps(project, number)) {
-        QImageReader reader(QString::fromStdString(step.source));
-        const QImage picture = reader.read();
+        const QImage picture = readPictureFile(QString::fromStdString(step.source));
         if (picture.isNull())
             return outcome;
         const PixelRect at = buttonRect(button, picture.width(), picture.height(), screen);

@@ -1,11 +1,11 @@
 #include "picture/worksheet_scene.h"
 
 #include <QFont>
-#include <QImageReader>
 #include <QPainter>
 
 #include "core/picture/bake_rules.h"
 #include "picture/colours.h"
+#include "picture/picture_file.h"
 
 namespace qor {
 namespace {
@@ -14,8 +14,7 @@ QImage readPicture(const std::string& path)
 {
     if (path.empty())
         return {};
-    QImageReader reader(QString::fromStdString(path));
-    return reader.read();
+    return readPictureFile(QString::fromStdString(path));
 }
 
 QFont fontOf(const MenuText& text)

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <map>
@@ -10,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/build/build_messages.h"
 #include "core/build/compiler.h"
 #include "core/build/headless_project.h"
 #include "core/build/html_launcher.h"
@@ -219,13 +222,30 @@ bool Builder::bake()
     return true;
 }
 
+// True when target is empty or leads to the file system's root, through
+// links too: a compilation there would write beside the system's folders.
+bool isRootTarget(const std::string& target)
+{
+    if (target.empty() || isRootFolder(target))
+        return true;
+    char* real = ::realpath(target.c_str(), nullptr);
+    const bool root = real && std::string_view(real) == "/";
+    std::free(real);
+    return root;
+}
+
 int Builder::compileInto(const std::string& target)
 {
-    if (!bake())
+    if (isRootTarget(target)) {
+        dialogs_.message(incorrectFolderMessage());
         return kFailed;
+    }
     Compiler compiler(files_, dialogs_, state_);
-    const CompileOutcome outcome = compiler.compile(project_, request(target), {program_, true}, view_);
-    if (outcome != CompileOutcome::Done)
+    const CompileRequest r = request(target);
+    // Checked before the baker writes anything beside the pictures.
+    if (compiler.checkValues(project_, r) != CompileOutcome::Done || !bake())
+        return kFailed;
+    if (compiler.compile(project_, r, {program_, true}, view_) != CompileOutcome::Done)
         return kFailed;
     if (!args_.web)
         return kOk;
@@ -241,6 +261,10 @@ int Builder::compileInto(const std::string& target)
 int Builder::html()
 {
     const std::string path = htmlLauncherPath(args_.positional[1]);
+    // The web menu carries the same data line as a CD: checked before anything is written.
+    Compiler compiler(files_, dialogs_, state_);
+    if (compiler.checkValues(project_, request(folderOf(path))) != CompileOutcome::Done)
+        return kFailed;
     if (Status s = writeHtmlLauncher(files_, project_, path); !s) {
         std::cerr << "Erreur : " << inFrench(s.error()).description << " (" << path << ")\n";
         return kFailed;

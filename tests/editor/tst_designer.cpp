@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -311,6 +312,16 @@ void TestDesigner::badPicturesNeitherCrashNorHang()
     QCOMPARE(b.normalImage, text);
     QCOMPARE(b.pressedImage, huge);
     QVERIFY(s.windows().worksheet().button(1).pixmap().isNull());
+    // Larger than Qt reads by default (a quarter of a gigabyte decoded),
+    // well inside the pictures' rule: shown, not dropped.
+    const std::string large = folder + "grande.png";
+    QImage picture(9000, 8000, QImage::Format_RGB32);
+    picture.fill(Qt::green);
+    QVERIFY(picture.save(QString::fromStdString(large)));
+    s.dialogs.openAnswers = {large};
+    QTest::mouseClick(s.windows().properties().buttonPanel().command(QStringLiteral("Text_normale_parcourir")),
+                      Qt::LeftButton);
+    QCOMPARE(s.windows().worksheet().button(1).pixmap().size(), QSize(9000, 8000));
     for (const std::string& bad : {empty, huge}) {
         s.dialogs.openAnswers = {bad};
         QTest::mouseClick(s.windows().properties().buttonPanel().command(QStringLiteral("Text_normale_parcourir")),

@@ -244,6 +244,15 @@ void TestScriptEditor::keysStayInTheText()
     QCOMPARE(o.script(), std::string("a\tb"));
     QTest::keyClick(o.text, Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(o.text->textCursor().selectedText(), QStringLiteral("a\tb"));
+
+    // What the slot holds comes back whole once the editor has shown it
+    // and a key was typed: non-breaking spaces, tabs, any character.
+    const std::string typed = "MsgBox \"Bonjour\u00A0!\"\r\n\tx = \"\u30A6 \u00AB\u00A0a\u00A0\u00BB\"";
+    o.s.core().project().globalScript = typed;
+    o.s.core().scriptEditor().open(ScriptSlot::Global);
+    o.text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(o.text, QStringLiteral("y"));
+    QCOMPARE(o.s.core().project().globalScript, typed + "y");
 }
 
 void TestScriptEditor::waitNotice()

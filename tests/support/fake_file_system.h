@@ -88,6 +88,22 @@ public:
             return std::nullopt;
         return it->second.size();
     }
+    std::vector<std::string> entryNames(const std::string& folder) override
+    {
+        const std::string f = follow(norm(folder));
+        std::vector<std::string> out;
+        auto add = [&](const std::string& p) {
+            if (p != f && parent(p) == f)
+                out.push_back(p.substr(p.rfind('/') + 1));
+        };
+        for (const auto& [p, b] : files)
+            add(p);
+        for (const auto& p : folders)
+            add(p);
+        for (const auto& [p, to] : links)
+            add(p);
+        return out;
+    }
     Status createFolder(const std::string& path) override
     {
         const std::string p = norm(path);
@@ -187,6 +203,13 @@ public:
             return s;
         log.push_back("append " + p);
         return {};
+    }
+    Result<std::string> readRange(const std::string& path, std::uint64_t offset, std::size_t count) override
+    {
+        auto whole = readFile(path);
+        if (!whole)
+            return whole;
+        return offset >= whole->size() ? std::string() : whole->substr(offset, count);
     }
     Result<std::string> readFile(const std::string& path) override
     {

@@ -17,6 +17,10 @@ BuildFlows::BuildFlows(const MenuProject& project, BuildPorts ports, BuildSettin
 
 void BuildFlows::openCompileDialog()
 {
+    // The project's values are checked before anything is baked; the
+    // dialog's own fields when it compiles.
+    if (compiler_.checkValues(context_.project, CompileRequest{}) != CompileOutcome::Done)
+        return;
     context_.ports.baker.bakeAllButtons();
     context_.ports.view.discardCompileDialog();
     context_.ports.view.openCompileDialog(compileDefaults(context_.project, context_.ports.files.homeFolder()),
@@ -30,6 +34,9 @@ void BuildFlows::exportExecutable()
 
 void BuildFlows::exportHtml()
 {
+    // The web menu carries the same data line as a CD.
+    if (compiler_.checkValues(context_.project, CompileRequest{}) != CompileOutcome::Done)
+        return;
     const std::string answer = context_.ports.dialogs.inputBox("rep ?", context_.settings.untitled,
                                                                context_.ports.files.desktopFolder());
     const std::string path = htmlLauncherPath(answer);

@@ -100,11 +100,11 @@ Message badFileNameMessage(const std::string& name, const std::string& title)
                    title);
 }
 
-Message unwritableFileNameMessage(const std::string& fileName)
+Message fileNameClashMessage(const std::string& first, const std::string& second)
 {
-    return warning("Le nom du fichier '" + fileName +
-                       "' contient des caractères que le menu compilé ne peut pas écrire. Renommez ce fichier "
-                       "(lettres accentuées d'Europe de l'Ouest seulement).",
+    return warning("Compilation impossible : les fichiers '" + first + "' et '" + second +
+                       "' seraient copiés sous le même nom dans le dossier 'qor' (les majuscules et minuscules ne "
+                       "comptent pas sur un CD). Renommez l'un des deux puis compilez à nouveau.",
                    "Compilation");
 }
 

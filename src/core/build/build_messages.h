@@ -24,7 +24,8 @@ Message runtimeHelpMessage();                              // "[Infos]" of the c
 // its folder or ship a menu that cannot find its files.
 Message qorNotAFolderMessage(const std::string& target);
 Message badFileNameMessage(const std::string& name, const std::string& title);
-Message unwritableFileNameMessage(const std::string& fileName);
+// Two different files that one name of qor/ would receive.
+Message fileNameClashMessage(const std::string& first, const std::string& second);
 
 // The compile dialog's texts.
 std::string compileFinalText(const std::string& target);   // Label1 once done

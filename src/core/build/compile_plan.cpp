@@ -25,9 +25,12 @@ private:
     void add(CompileAction a) { plan_.actions.push_back(std::move(a)); }
     void copy(std::string source, std::string target, bool keepExisting = false)
     {
+        if (!claim(source, target))
+            return;
         add({.kind = CompileAction::Kind::Copy, .source = std::move(source), .target = std::move(target),
              .keepExisting = keepExisting});
     }
+    bool claim(const std::string& source, const std::string& target);
     // A file of the project, by its stored path, to qor/ under its file name.
     void copyProjectFile(const std::string& stored, std::string_view suffix = {})
     {
@@ -50,7 +53,21 @@ private:
     std::string program_;
     std::string qor_;
     CompilePlan plan_;
+    std::map<std::string, std::string> sources_;   // target, letter case folded -> its source
 };
+
+// True when source is to be copied to target: the first file to claim a
+// name of qor/ keeps it; the same file again is copied once, another one
+// is the plan's clash.
+bool PlanBuilder::claim(const std::string& source, const std::string& target)
+{
+    const auto [it, fresh] = sources_.try_emplace(toLowerText(target), source);
+    if (fresh)
+        return true;
+    if (it->second != source && !plan_.clash)
+        plan_.clash = CompilePlan::Clash{it->second, source};
+    return false;
+}
 
 CompilePlan PlanBuilder::build()
 {
@@ -65,6 +82,9 @@ CompilePlan PlanBuilder::build()
     show(kDone);
     copyRuntimeFile(program_files::installer);
     show("Copie d'aurorun.exe...");
+    // The player's final name is taken too: a picture called autorun.exe
+    // would otherwise be replaced by it.
+    claim(program_ + std::string(program_files::player), plan_.player);
     copy(program_ + std::string(program_files::player), plan_.partialPlayer);
     show(kDone);
     buttonImages();

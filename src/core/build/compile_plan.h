@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,17 @@ struct CompilePlan {
     std::vector<CompileAction> actions;
     std::string player;          // T + "qor/autorun.exe" or T + "qor/<name>.exe"
     std::string partialPlayer;   // where it is made
+
+    // Two different files that would land on one name of qor/ (letter case
+    // ignored, as on the Windows machines a CD is made for): the first
+    // source and the one that would replace it. The same file named twice
+    // is copied once and is no clash.
+    struct Clash {
+        std::string first;
+        std::string second;
+        friend bool operator==(const Clash&, const Clash&) = default;
+    };
+    std::optional<Clash> clash;
 
     // The step texts in order ("Création de l'Autorun...", "Terminé." ...).
     std::vector<std::string> shownTexts() const;

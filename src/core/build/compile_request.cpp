@@ -1,5 +1,7 @@
 #include "core/build/compile_request.h"
 
+#include <algorithm>
+
 #include "core/build/program_files.h"
 #include "core/picture/bake_rules.h"
 #include "text/cp1252.h"
@@ -68,19 +70,23 @@ bool needsBaking(const MenuProject& project)
     return !buttonsToBake(project).empty();
 }
 
-std::optional<std::string> unwritableFileName(const MenuProject& project)
+bool isRootFolder(std::string_view folder)
 {
-    std::vector<const std::string*> paths = {&project.backgroundImage, &project.backgroundMusic, &project.clickSound,
-                                             &project.hoverSound, &project.transparencyImage};
-    for (const MenuButton* b : project.savableButtons())
-        for (const std::string* image : {&b->normalImage, &b->hoverImage, &b->pressedImage})
-            paths.push_back(image);
-    for (const std::string* path : paths) {
-        const std::string name = fileNameOf(*path);
-        if (!fitsCp1252(name))
-            return name;
+    if (folder.empty() || folder.front() != '/')
+        return false;
+    // Walks the names lexically: ".." at the root stays at the root.
+    int depth = 0;
+    std::size_t pos = 0;
+    while (pos < folder.size()) {
+        const std::size_t end = std::min(folder.find('/', pos), folder.size());
+        const std::string_view name = folder.substr(pos, end - pos);
+        if (name == "..")
+            depth = std::max(depth - 1, 0);
+        else if (!name.empty() && name != ".")
+            ++depth;
+        pos = end + 1;
     }
-    return std::nullopt;
+    return depth == 0;
 }
 
 }  // namespace qor

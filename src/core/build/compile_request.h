@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "model/menu_project.h"
 
@@ -56,8 +57,7 @@ bool fitsCp1252(const std::string& text);
 // with its normal image.
 bool needsBaking(const MenuProject& project);
 
-// The first file name a compilation would name in the data (or copy) that
-// Windows-1252 cannot hold; nothing when all can be written.
-std::optional<std::string> unwritableFileName(const MenuProject& project);
+// True when folder names the file system's root: "/", "//", "/..", "/./" ...
+bool isRootFolder(std::string_view folder);
 
 }  // namespace qor

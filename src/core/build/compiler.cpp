@@ -3,6 +3,9 @@
 #include "core/build/autorun_inf.h"
 #include "core/build/build_messages.h"
 #include "core/build/menu_data_file.h"
+#include "core/build/picture_check.h"
+#include "core/build/value_check.h"
+#include "text/text_helpers.h"
 
 namespace qor {
 namespace {
@@ -29,14 +32,17 @@ CompileOutcome Compiler::compile(const MenuProject& project, CompileRequest requ
                                  CompileView& view)
 {
     state_.compileFailed = false;
+    // An empty field would become "/": the whole disk is no folder to burn.
+    if (request.target.empty() || isRootFolder(request.target))
+        return refuse(incorrectFolderMessage(), true);
     request.target = normalisedTarget(request.target);
     view.setTarget(request.target);
-    if (CompileOutcome o = check(project, request, env); o != CompileOutcome::Done)
+    const CompilePlan plan = compilePlan(project, request, env.programFolder);
+    if (CompileOutcome o = check(project, request, plan, env); o != CompileOutcome::Done)
         return o;
 
     view.setFieldsEnabled(false);
     view.setStatus("Dossier OK. Copie des fichiers :", kFolderOkColour);
-    const CompilePlan plan = compilePlan(project, request, env.programFolder);
     if (Status s = run(project, request, plan, view); !s) {
         (void)files_.removeFile(plan.partialPlayer);
         dialogs_.message(compilationFailedMessage(s.error()));
@@ -52,7 +58,14 @@ CompileOutcome Compiler::compile(const MenuProject& project, CompileRequest requ
     return CompileOutcome::Done;
 }
 
-CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest& request,
+CompileOutcome Compiler::checkValues(const MenuProject& project, const CompileRequest& request)
+{
+    if (auto fault = firstUnwritableValue(project, request))
+        return refuse(unwritableValueMessage(*fault), true);
+    return CompileOutcome::Done;
+}
+
+CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan,
                                const CompileEnvironment& env)
 {
     if (!files_.isFolder(request.target))
@@ -60,9 +73,13 @@ CompileOutcome Compiler::check(const MenuProject& project, const CompileRequest&
     if (env.requireMediaFile)
         if (int n = buttonWithoutMedia(project))
             return refuse(forgottenMediaMessage(n), true);
-    if (auto name = unwritableFileName(project))
-        return refuse(unwritableFileNameMessage(*name), true);
-    return request.subMenu ? checkSubMenu(request) : checkMainMenu(request.target);
+    if (CompileOutcome o = checkValues(project, request); o != CompileOutcome::Done)
+        return o;
+    if (plan.clash)
+        return refuse(fileNameClashMessage(plan.clash->first, plan.clash->second), true);
+    if (auto picture = firstUnreadablePicture(files_, project))
+        return refuse(unreadablePictureMessage(*picture), true);
+    return request.subMenu ? checkSubMenu(request, plan) : checkMainMenu(request.target);
 }
 
 CompileOutcome Compiler::checkMainMenu(const std::string& target)
@@ -82,7 +99,7 @@ CompileOutcome Compiler::checkMainMenu(const std::string& target)
     return CompileOutcome::Done;
 }
 
-CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
+CompileOutcome Compiler::checkSubMenu(const CompileRequest& request, const CompilePlan& plan)
 {
     if (!isPlainFileName(request.subMenuName))
         return refuse(badFileNameMessage(request.subMenuName, "Sous menu"), false);
@@ -91,8 +108,23 @@ CompileOutcome Compiler::checkSubMenu(const CompileRequest& request)
         return refuse(noMainMenuMessage(), false);
     if (kind != PathKind::Folder)
         return refuse(qorNotAFolderMessage(request.target), true);
-    if (files_.kind(request.target + "qor/" + request.subMenuName + ".exe") != PathKind::None)
-        return refuse(subMenuExistsMessage(), false);
+    // On the CD's machines names differing only in letter case are one file.
+    const std::string qor = request.target + "qor/";
+    const std::vector<std::string> present = files_.entryNames(qor);
+    const std::string exe = request.subMenuName + ".exe";
+    for (const std::string& name : present)
+        if (equalsNoCase(name, exe))
+            return refuse(subMenuExistsMessage(), false);
+    // A file shared with the menus already there is copied again, but never
+    // over one of their players, nor beside a name it would shadow.
+    for (const CompileAction& a : plan.actions) {
+        if (a.kind != CompileAction::Kind::Copy)
+            continue;
+        const std::string name = a.target.substr(qor.size());
+        for (const std::string& other : present)
+            if (equalsNoCase(other, name) && (other != name || endsWithNoCase(other, ".exe")))
+                return refuse(fileNameClashMessage(a.source, qor + other), true);
+    }
     return CompileOutcome::Done;
 }
 

@@ -40,10 +40,16 @@ public:
     CompileOutcome compile(const MenuProject& project, CompileRequest request, const CompileEnvironment& env,
                            CompileView& view);
 
+    // The check of every value the compiled data carries, by itself: the
+    // commands run it before they bake, so a refused project writes nothing.
+    // Refuses (message, flag) or says Done.
+    CompileOutcome checkValues(const MenuProject& project, const CompileRequest& request);
+
 private:
-    CompileOutcome check(const MenuProject& project, const CompileRequest& request, const CompileEnvironment& env);
+    CompileOutcome check(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan,
+                         const CompileEnvironment& env);
     CompileOutcome checkMainMenu(const std::string& target);
-    CompileOutcome checkSubMenu(const CompileRequest& request);
+    CompileOutcome checkSubMenu(const CompileRequest& request, const CompilePlan& plan);
     CompileOutcome refuse(const Message& message, bool setsFlag);
     Status run(const MenuProject& project, const CompileRequest& request, const CompilePlan& plan, CompileView& view);
     Status perform(const CompileAction& action, const MenuProject& project, const CompileRequest& request,

@@ -13,6 +13,10 @@ std::string exportedExecutablePath(const std::string& folder, const std::string&
 
 void ExecutableExport::run(const ExportKind& kind)
 {
+    // The project's own values first: the name and author asked later are
+    // checked by the compilation itself.
+    if (c_.compiler.checkValues(c_.project, CompileRequest{}) != CompileOutcome::Done)
+        return;
     c_.ports.baker.bakeAllButtons();
     c_.ports.view.showNoticePanels(true);
     const auto picked = c_.ports.dialogs.pickFolder(exportFolderPrompt(kind.name, c_.settings.phrases));

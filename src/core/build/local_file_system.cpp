@@ -176,6 +176,19 @@ Status LocalFileSystem::createFolder(const std::string& path)
     return {};
 }
 
+std::vector<std::string> LocalFileSystem::entryNames(const std::string& folder)
+{
+    std::vector<std::string> names;
+    DIR* listing = ::opendir(folder.c_str());
+    if (!listing)
+        return names;
+    while (dirent* e = ::readdir(listing))
+        if (std::string_view(e->d_name) != "." && std::string_view(e->d_name) != "..")
+            names.emplace_back(e->d_name);
+    ::closedir(listing);
+    return names;
+}
+
 void LocalFileSystem::removeFilesIn(const std::string& folder)
 {
     // A trailing "/" would make the system follow a link at the end.
@@ -284,6 +297,27 @@ Result<std::string> LocalFileSystem::readFile(const std::string& path)
         return e;
     }
     return std::move(bytes).value();
+}
+
+Result<std::string> LocalFileSystem::readRange(const std::string& path, std::uint64_t offset, std::size_t count)
+{
+    Fd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file)
+        return lastError(path);
+    std::string bytes(count, '\0');
+    std::size_t got = 0;
+    while (got < count) {
+        const ssize_t n = ::pread(file.get(), bytes.data() + got, count - got, off_t(offset + got));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return lastError(path);
+        if (n == 0)
+            break;
+        got += std::size_t(n);
+    }
+    bytes.resize(got);
+    return bytes;
 }
 
 Result<std::string> LocalFileSystem::createTempFile()

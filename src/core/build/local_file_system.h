@@ -14,6 +14,7 @@ public:
     PathKind kind(const std::string& path) override;
     bool isFolder(const std::string& path) override;
     std::optional<std::uint64_t> fileSize(const std::string& path) override;
+    std::vector<std::string> entryNames(const std::string& folder) override;
     Status createFolder(const std::string& path) override;
     void removeFilesIn(const std::string& folder) override;
     Status removeFolder(const std::string& path) override;
@@ -23,6 +24,7 @@ public:
     Status writeFile(const std::string& path, std::string_view bytes) override;
     Status appendToFile(const std::string& path, std::string_view bytes) override;
     Result<std::string> readFile(const std::string& path) override;
+    Result<std::string> readRange(const std::string& path, std::uint64_t offset, std::size_t count) override;
     Result<std::string> createTempFile() override;
     Result<std::string> createTempFolder() override;
     std::string homeFolder() override;

@@ -22,14 +22,17 @@ std::string TestRun::compiledMenu() const
 
 void TestRun::run()
 {
-    c_.ports.baker.bakeAllButtons();
-    c_.ports.view.showNoticePanels(true);
-    clearFolder();
-    c_.ports.view.discardCompileDialog();
     CompileRequest request;
     request.target = folder();
     request.projectName = "TEST";
     request.author = "TEST";
+    // A value the data cannot carry stops the run before anything is baked or cleared.
+    if (c_.compiler.checkValues(c_.project, request) != CompileOutcome::Done)
+        return;
+    c_.ports.baker.bakeAllButtons();
+    c_.ports.view.showNoticePanels(true);
+    clearFolder();
+    c_.ports.view.discardCompileDialog();
     (void)c_.compileHidden(request);
     c_.ports.view.showNoticePanels(false);
     if (c_.state.compileFailed)

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "text/error.h"
 
@@ -29,6 +30,10 @@ public:
     // The size of a file (links followed), or nothing when it cannot be read.
     virtual std::optional<std::uint64_t> fileSize(const std::string& path) = 0;
 
+    // The names of everything that stands directly in folder, in no order;
+    // nothing when it cannot be read.
+    virtual std::vector<std::string> entryNames(const std::string& folder) = 0;
+
     virtual Status createFolder(const std::string& path) = 0;
     // Deletes the files and links that stand directly in folder; its
     // sub-folders stay whole. Nothing when folder is itself a link.
@@ -46,6 +51,8 @@ public:
     // Adds bytes at the end of an existing file.
     virtual Status appendToFile(const std::string& path, std::string_view bytes) = 0;
     virtual Result<std::string> readFile(const std::string& path) = 0;
+    // Up to count bytes of a file from offset: fewer at its end.
+    virtual Result<std::string> readRange(const std::string& path, std::uint64_t offset, std::size_t count) = 0;
 
     // A new empty file, or folder, of a unique name in the system's
     // temporary folder.

@@ -56,11 +56,24 @@ AuthorFields authorFieldsOf(const MenuProject& project)
     return {project.authorName, project.authorEmail, project.authorWebSite, project.notes};
 }
 
+// A one-line field as the project keeps it: without the files' two
+// separators, line breaks or NUL bytes, which a paste may bring.
+std::string cleanOneLine(std::string_view typed)
+{
+    std::string out;
+    for (char c : removeForbiddenChars(typed))
+        if (c == '\r' || c == '\n')
+            out += ' ';
+        else if (c != '\0')
+            out += c;
+    return out;
+}
+
 void applyAuthorFields(MenuProject& project, const AuthorFields& fields)
 {
-    project.authorName = fields.name;
-    project.authorEmail = fields.email;
-    project.authorWebSite = fields.webSite;
+    project.authorName = cleanOneLine(fields.name);
+    project.authorEmail = cleanOneLine(fields.email);
+    project.authorWebSite = cleanOneLine(fields.webSite);
     project.notes = cleanNotes(fields.notes);
 }
 

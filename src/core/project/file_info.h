@@ -41,6 +41,7 @@ AuthorFields authorFieldsOf(const MenuProject& project);
 
 // "&Valider": the fields go into the project, which is not saved.
 void applyAuthorFields(MenuProject& project, const AuthorFields& fields);
+std::string cleanOneLine(std::string_view typed);
 
 // The notes as typed, every "¤" (the project file's line-break mark) made "*".
 std::string cleanNotes(std::string_view typed);

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
+#include <QTextDocument>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,6 +26,17 @@ std::string fromEditorText(const QString& text)
 {
     QString script = text;
     return fromQt(script.replace(QChar('\n'), QStringLiteral("\r\n")));
+}
+
+// What the box shows, character for character. toPlainText() would give
+// every non-breaking space back as a plain one, and French punctuation in
+// a message box needs them.
+QString shownText(const QPlainTextEdit* box)
+{
+    QString text = box->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QChar('\n'));
+    text.replace(QChar::LineSeparator, QChar('\n'));
+    return text;
 }
 
 // A position of the text box (UTF-16, "\n" one) as the script counts it
@@ -85,7 +97,7 @@ void EditorScriptEditorView::connectText(ScriptEditorWindow& w)
 {
     QPlainTextEdit* text = w.text();
     QObject::connect(text, &QPlainTextEdit::textChanged, text, [this, text] {
-        const QString before = text->toPlainText();
+        const QString before = shownText(text);
         if (auto cleaned = flow_.textChanged(fromEditorText(before))) {
             // The caret stays where the user was typing, less what went.
             const int caret = text->textCursor().position();
@@ -137,13 +149,13 @@ void EditorScriptEditorView::hide()
 
 std::string EditorScriptEditorView::text() const
 {
-    return fromEditorText(window().text()->toPlainText());
+    return fromEditorText(shownText(window().text()));
 }
 
 TextSelection EditorScriptEditorView::selection() const
 {
     const QPlainTextEdit* box = window().text();
-    const QString text = box->toPlainText();
+    const QString text = shownText(box);
     const QTextCursor cursor = box->textCursor();
     const std::size_t start = scriptPosition(text, cursor.selectionStart());
     return {start, scriptPosition(text, cursor.selectionEnd()) - start};
@@ -155,7 +167,7 @@ void EditorScriptEditorView::setText(const std::string& text, std::size_t caret)
     const QString shown = toEditorText(text);
     box->setPlainText(shown);
     // The change may have been cleaned: place the caret in what is shown.
-    placeCaret(box, editorPosition(box->toPlainText(), caret));
+    placeCaret(box, editorPosition(shownText(box), caret));
     box->setFocus();
 }
 
@@ -164,7 +176,7 @@ void EditorScriptEditorView::moveCaretTo(std::size_t caret)
     QPlainTextEdit* box = window().text();
     box->moveCursor(QTextCursor::End);
     box->ensureCursorVisible();
-    placeCaret(box, editorPosition(box->toPlainText(), caret));
+    placeCaret(box, editorPosition(shownText(box), caret));
     box->ensureCursorVisible();
     box->setFocus();
 }

@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
 
@@ -11,6 +10,7 @@
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/qt_text.h"
+#include "picture/picture_file.h"
 
 namespace qor {
 
@@ -19,10 +19,7 @@ Result<QImage> readPicture(const std::string& path)
     const QString file = toQt(path);
     if (!QFileInfo(file).isFile())
         return makeError(err::FileNotFound);
-    QImageReader reader(file);
-    // The extension may lie (a GIF saved as ".bmp"): trust the content.
-    reader.setDecideFormatFromContent(true);
-    QImage image = reader.read();
+    QImage image = readPictureFile(file);
     if (image.isNull())
         return makeError(err::InvalidPicture);
     return image;

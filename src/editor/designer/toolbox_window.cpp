@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QGroupBox>
-#include <QImageReader>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -10,6 +9,7 @@
 
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
+#include "picture/picture_file.h"
 
 namespace qor {
 
@@ -70,8 +70,7 @@ std::optional<OutlineCommand> ToolboxWindow::popUpOutlineMenu()
 
 bool ToolboxWindow::showOutlineImage(const std::string& path)
 {
-    QImageReader reader(QString::fromStdString(path));
-    const QImage picture = reader.read();
+    const QImage picture = readPictureFile(QString::fromStdString(path));
     if (picture.isNull())
         return false;
     if (outline_->isHidden())

@@ -1,11 +1,11 @@
 #include "editor/wizard/qt_button_pictures.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QImageWriter>
 
 #include "editor/platform/qt_text.h"
 #include "editor/wizard/text_button_image.h"
+#include "model/picture_rule.h"
 
 namespace qor {
 
@@ -14,13 +14,10 @@ Result<PixelSize> QtButtonPictures::pictureSize(const std::string& path)
     const QString file = toQt(path);
     if (!QFileInfo(file).isFile())
         return makeError(err::FileNotFound);
-    QImageReader reader(file);
-    // The extension may lie (a GIF saved as ".bmp"): trust the content.
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (!reader.canRead() || !size.isValid())
+    const auto facts = examinePictureFile(path);
+    if (!facts || !facts->readable())
         return makeError(err::InvalidPicture);
-    return PixelSize{size.width(), size.height()};
+    return PixelSize{int(facts->width), int(facts->height)};
 }
 
 Result<PixelSize> QtButtonPictures::saveTextButton(const WizardButton& entry, ButtonState state,

@@ -2,6 +2,8 @@
 
 #include <QImageReader>
 
+#include "model/picture_rule.h"
+
 namespace qor::player {
 
 const QPixmap& ImageCache::pixmap(const std::string& path)
@@ -12,12 +14,17 @@ const QPixmap& ImageCache::pixmap(const std::string& path)
         return *it;
     QPixmap pixmap;
     if (!path.empty()) {
-        QImageReader reader(key);
-        reader.setAutoTransform(false);
-        // A picture that claims a gigantic size is not one a menu can show.
-        const QSize size = reader.size();
-        if (!size.isValid() || qint64(size.width()) * size.height() <= qint64(16384) * 16384)
+        // The pictures' rule decides, as in the editor and on Windows; Qt's
+        // own allocation limit (a quarter of a gigabyte) would drop a large
+        // picture the rule accepts.
+        const auto facts = examinePictureFile(path);
+        if (facts && facts->readable()) {
+            QImageReader::setAllocationLimit(int(kLargestPictureBytes >> 20) + 1);
+            QImageReader reader(key);
+            reader.setDecideFormatFromContent(true);
+            reader.setAutoTransform(false);
             pixmap = QPixmap::fromImageReader(&reader);
+        }
     }
     return *pixmaps_.insert(key, pixmap);
 }

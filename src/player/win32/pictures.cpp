@@ -5,6 +5,7 @@
 
 #include <cstring>
 
+#include "model/picture_rule.h"
 #include "player/core/system_port.h"
 
 namespace qor::player {
@@ -18,6 +19,10 @@ using Gdiplus::GpImage;
 // A GDI+ bitmap made from bytes in memory; the stream goes with it.
 GpBitmap* decode(const std::string& bytes)
 {
+    // The pictures' rule, as in the editor and the Linux player: a picture
+    // it refuses is shown as none on every player alike.
+    if (!examinePicture(bytes).readable())
+        return nullptr;
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
     if (!memory)
         return nullptr;

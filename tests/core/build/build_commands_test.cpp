@@ -41,7 +41,7 @@ TEST_F(BuildFixture, TestRunStopsWhereTheCompilationOrThePlayerFails)
     EXPECT_EQ(view.events, (Events{"bake", "notices on", "discard dialog", "notices off"}));
     EXPECT_EQ(dialogs.lastMessage().text.substr(0, 34), "Erreur durant la compilation ! (Fi");
 
-    files.addFile("/proj/b1.png", "PNG");
+    files.addFile("/proj/b1.png", picture("PNG"));
     view.events.clear();
     view.watchError = makeError(err::FileNotFound, "qorplayer absent");
     for (bool french : {true, false}) {
@@ -53,6 +53,30 @@ TEST_F(BuildFixture, TestRunStopsWhereTheCompilationOrThePlayerFails)
         EXPECT_EQ(view.events.back(), "watch /prog/qorplayer /prog/tmp/qor/autorun.exe");
         EXPECT_EQ(dialogs.lastMessage(), (Message{french ? "Erreur lors du test !!!" : "Test error!",
                                                   "qorplayer absent", MessageIcon::Critical}));
+    }
+}
+
+// A value the data cannot carry stops every command before it bakes,
+// clears or asks anything.
+TEST_F(BuildFixture, CommandsRefuseAHostileProjectBeforeWritingAnything)
+{
+    project.button(1).action = "MsgBox \"a\u00ACb\"";
+    files.addFile("/prog/tmp/old.txt", "old");
+    files.log.clear();
+    const std::function<void(BuildFlows&)> commands[] = {
+        [](BuildFlows& b) { b.testRun(); },
+        [](BuildFlows& b) { b.exportExecutable(); },
+        [](BuildFlows& b) { b.openCompileDialog(); },
+    };
+    for (const auto& command : commands) {
+        dialogs.messages.clear();
+        auto build = flows();
+        command(build);
+        EXPECT_TRUE(view.events.empty()) << view.events.front();
+        ASSERT_EQ(dialogs.messages.size(), 1u);
+        EXPECT_NE(dialogs.lastMessage().text.find("L'action du bouton n°1"), std::string::npos);
+        EXPECT_TRUE(build.state().compileFailed);
+        EXPECT_TRUE(files.log.empty());
     }
 }
 

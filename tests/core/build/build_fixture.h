@@ -14,6 +14,13 @@ namespace qor::test {
 // A program folder /prog/ with its player, icon and installer, a project in
 // /proj/ with two buttons (one transparent), a background, music and a
 // click sound, and an empty target folder /cd/.
+// A picture the picture rule reads (a 1 x 1 GIF) that carries tag, so that
+// a test still sees which file went where.
+inline std::string picture(const std::string& tag)
+{
+    return std::string("GIF89a\x01\x00\x01\x00\x00\x00\x00", 13) + tag + ";";
+}
+
 struct BuildWorld {
     FakeFileSystem files;
     FakeDialogs dialogs;
@@ -33,7 +40,7 @@ struct BuildWorld {
         files.addFolder("/cd");
         project.filePath = "/proj/menu.qor";
         project.backgroundImage = "fond.jpg";
-        files.addFile("/proj/fond.jpg", "JPEG-background");
+        files.addFile("/proj/fond.jpg", picture("JPEG-background"));
         project.backgroundMusic = "/music/theme.mid";
         files.addFile("/music/theme.mid", "MIDI");
         project.clickSound = "clic.wav";
@@ -53,9 +60,9 @@ struct BuildWorld {
         b.hoverImage = name + "_s.png";
         b.pressedImage = name + "_c.png";
         for (const std::string* image : {&b.normalImage, &b.hoverImage, &b.pressedImage}) {
-            files.addFile("/proj/" + *image, "PNG " + *image);
+            files.addFile("/proj/" + *image, picture("PNG " + *image));
             if (transparent)
-                files.addFile("/proj/" + *image + "_transp.bmp", "BMP " + *image);
+                files.addFile("/proj/" + *image + "_transp.bmp", picture("BMP " + *image));
         }
         return b;
     }

@@ -3,6 +3,8 @@
 #include "core/build/build_messages.h"
 #include "core/build/compile_request.h"
 #include "core/build/iso_image.h"
+#include "core/build/value_check.h"
+#include "model/project_layout.h"
 #include "core/ports/program_runner.h"
 
 namespace qor::test {
@@ -142,6 +144,34 @@ TEST(FileNames, PlainNamesOnly)
         EXPECT_FALSE(isPlainFileName(bad)) << bad;
     EXPECT_EQ(normalisedTarget("/cd"), "/cd/");
     EXPECT_EQ(normalisedTarget("/cd/"), "/cd/");
+}
+
+// A row added to a table of the data is named in a refusal like the others,
+// never by its field's name.
+TEST(ValueCheck, EveryTextRowOfTheDataHasAPlace)
+{
+    namespace layout = project_layout;
+    using R = DataValueFault::Record;
+    std::vector<std::pair<R, std::string_view>> rows;
+    auto add = [&rows](R record, const auto& fields) {
+        for (const auto& f : fields)
+            if (f.encoding == layout::Encoding::Text || f.encoding == layout::Encoding::MultiLine ||
+                f.encoding == layout::Encoding::Path || f.encoding == layout::Encoding::DecimalText)
+                rows.emplace_back(record, f.name);
+    };
+    add(R::Project, layout::kGeneralFields);
+    add(R::Project, layout::kParamsPlusFields);
+    add(R::Project, layout::kOtherFields);
+    add(R::Button, layout::kButtonFields);
+    add(R::Text, layout::kTextFields);
+    add(R::Info, menu_data_layout::kInfoFields);
+    for (const auto& [record, field] : rows) {
+        const std::string place = valuePlace(DataValueFault{record, 7, field, "", DataValueProblem::Separator});
+        EXPECT_FALSE(place.starts_with("la valeur")) << field;
+        if (record == R::Button || record == R::Text) {
+            EXPECT_TRUE(place.ends_with("n°7")) << place;
+        }
+    }
 }
 
 }  // namespace

@@ -46,17 +46,17 @@ TEST_F(BuildFixture, MainMenuFolderHoldsEveryFileUnderItsName)
     project.icon = "/icons/cd.ico";
     files.addFile("/icons/cd.ico", "MY ICON");
     project.transparencyImage = "/proj/filtre.bmp";
-    files.addFile("/proj/filtre.bmp", "FILTER");
+    files.addFile("/proj/filtre.bmp", picture("FILTER"));
     FakeCompileView v;
     ASSERT_EQ(compile(request(), v), CompileOutcome::Done);
 
     EXPECT_EQ(files.bytes("/cd/Autorun.inf"), autorunInfBytes());
     const std::map<std::string, std::string> expected = {
         {"/cd/qor/autorun.ico", "MY ICON"},     {"/cd/qor/install.bat", "@echo off"},
-        {"/cd/qor/filtre.bmp", "FILTER"},       {"/cd/qor/fond.jpg", "JPEG-background"},
-        {"/cd/qor/b1.png", "PNG b1.png"},       {"/cd/qor/b1_s.png", "PNG b1_s.png"},
-        {"/cd/qor/b1_c.png", "PNG b1_c.png"},   {"/cd/qor/b2.png_transp.bmp", "BMP b2.png"},
-        {"/cd/qor/b2_s.png_transp.bmp", "BMP b2_s.png"}, {"/cd/qor/b2_c.png_transp.bmp", "BMP b2_c.png"},
+        {"/cd/qor/filtre.bmp", picture("FILTER")},       {"/cd/qor/fond.jpg", picture("JPEG-background")},
+        {"/cd/qor/b1.png", picture("PNG b1.png")},       {"/cd/qor/b1_s.png", picture("PNG b1_s.png")},
+        {"/cd/qor/b1_c.png", picture("PNG b1_c.png")},   {"/cd/qor/b2.png_transp.bmp", picture("BMP b2.png")},
+        {"/cd/qor/b2_s.png_transp.bmp", picture("BMP b2_s.png")}, {"/cd/qor/b2_c.png_transp.bmp", picture("BMP b2_c.png")},
         {"/cd/qor/theme.mid", "MIDI"},          {"/cd/qor/clic.wav", "RIFF"},
         {"/cd/qor/autorun.exe", "MZ-player-bytes" + menuDataBytes(project, {"Démo", "Moi"})},
     };
@@ -99,6 +99,12 @@ TEST_F(BuildFixture, RefusalsAndFailuresSetTheFlagByTheirRules)
     const std::vector<Row> rows = {
         {"missing folder", [](BuildWorld&, CompileRequest& r) { r.target = "/nowhere"; },
          CompileOutcome::Refused, true, "Répertoire incorrect !"},
+        {"empty target", [](BuildWorld&, CompileRequest& r) { r.target = ""; }, CompileOutcome::Refused, true,
+         "Répertoire incorrect !"},
+        {"root", [](BuildWorld&, CompileRequest& r) { r.target = "/"; }, CompileOutcome::Refused, true,
+         "Répertoire incorrect !"},
+        {"root by ..", [](BuildWorld&, CompileRequest& r) { r.target = "/cd/../.."; }, CompileOutcome::Refused,
+         true, "Répertoire incorrect !"},
         {"video without file",
          [](BuildWorld& f, CompileRequest&) { f.addButton("vidéo", "v", false); },
          CompileOutcome::Refused, true, "Vous avez oublié d'indiquer un fichier multimédia pour le bouton n°3 !"},
@@ -121,6 +127,13 @@ TEST_F(BuildFixture, RefusalsAndFailuresSetTheFlagByTheirRules)
              r.subMenu = true;
              r.subMenuName = "Intro";
              f.files.addFile("/cd/qor/Intro.exe", "x");
+         },
+         CompileOutcome::Refused, false, "Un sous menu portant ce nom a déja été créé dans ce répertoire."},
+        {"sub-menu named as the main menu in another case",
+         [](BuildWorld& f, CompileRequest& r) {
+             r.subMenu = true;
+             r.subMenuName = "AUTORUN";
+             f.files.addFile("/cd/qor/autorun.exe", "x");
          },
          CompileOutcome::Refused, false, "Un sous menu portant ce nom a déja été créé dans ce répertoire."},
         {"missing image", [](BuildWorld& f, CompileRequest&) { f.files.files.erase("/proj/b1_s.png"); },
@@ -228,7 +241,7 @@ TEST_F(BuildFixture, SubMenuJoinsAnExistingMainMenu)
 TEST_F(BuildFixture, SubMenuNamesMustNameOneFileOfQor)
 {
     files.addFolder("/cd/qor");
-    for (const char* name : {"", "..", ".", "a/b", "../../etc/x", "a\\b", "菜单"}) {
+    for (const char* name : {"", "..", ".", "a/b", "../../etc/x", "a\\b"}) {
         CompileRequest r = request();
         r.subMenu = true;
         r.subMenuName = name;
@@ -239,25 +252,156 @@ TEST_F(BuildFixture, SubMenuNamesMustNameOneFileOfQor)
     EXPECT_TRUE(files.log.empty());
 }
 
-TEST_F(BuildFixture, FileNamesTheDataCannotHoldAreRefused)
+// Each hostile value, wherever the data carries it, stops the compilation
+// before anything is written, and the message says where it is.
+TEST_F(BuildFixture, ValuesTheDataCannotCarryAreRefusedByName)
 {
-    project.clickSound = "/proj/ウ.wav";
-    files.addFile("/proj/ウ.wav", "x");
-    EXPECT_EQ(compile(request()), CompileOutcome::Refused);
-    EXPECT_EQ(dialogs.lastMessage(), unwritableFileNameMessage("ウ.wav"));
-    EXPECT_TRUE(state.compileFailed);
-    EXPECT_TRUE(files.log.empty());
+    const std::string sep = "\u00AC", mark = "\u00A4";
+    struct Row {
+        std::function<void(BuildWorld&, CompileRequest&)> arrange;
+        std::string place;   // as the message names it
+    };
+    const std::vector<Row> rows = {
+        {[&](BuildWorld& f, CompileRequest&) { f.project.backgroundImage = "/img/a" + sep + "b.jpg"; },
+         "L'image de fond (« a¬b.jpg »)"},
+        {[&](BuildWorld&, CompileRequest& r) { r.projectName = "Mon" + sep + "menu"; }, "Le nom du projet"},
+        {[](BuildWorld&, CompileRequest& r) { r.author = "Moi\r\nToi"; }, "L'auteur du projet (« Moi↵Toi »)"},
+        {[&](BuildWorld& f, CompileRequest&) { f.project.button(2).action = "MsgBox 1" + mark; },
+         "L'action du bouton n°2"},
+        {[](BuildWorld& f, CompileRequest&) { f.project.button(1).hoverImage = "/img/b\nc.png"; },
+         "L'image de survol du bouton n°1"},
+        {[&](BuildWorld& f, CompileRequest&) { f.project.globalScript = "Dim a" + sep; }, "Le code global"},
+        {[](BuildWorld& f, CompileRequest&) {   // left out of the data, but its images are copied
+             f.project.button(1).kind.clear();
+             f.project.button(1).pressedImage = "/img/";
+         },
+         "L'image du clic du bouton n°1 («  ») ne nomme aucun fichier"},
+        {[](BuildWorld& f, CompileRequest&) { f.project.clickSound = "/proj/ウ.wav"; }, "Le son du clic"},
+        {[](BuildWorld& f, CompileRequest&) { f.project.hoverSound = "/s/" + std::string(300, 'x') + ".wav"; },
+         "Le son du survol"},
+        {[](BuildWorld& f, CompileRequest&) {
+             (void)f.project.addText();
+             (void)f.project.addText();
+             f.project.text(2).content = std::string("a\0b", 3);
+         },
+         "Le texte n°2"},
+        {[&](BuildWorld&, CompileRequest& r) {
+             r.subMenu = true;
+             r.subMenuName = "Intro" + sep;
+         },
+         "Le nom du sous menu"},
+    };
+    for (const auto& row : rows) {
+        BuildWorld f;
+        f.files.addFile("/cd/qor/autorun.exe", "MAIN");
+        f.files.log.clear();
+        CompileRequest r = f.request();
+        row.arrange(f, r);
+        EXPECT_EQ(f.compile(r), CompileOutcome::Refused) << row.place;
+        EXPECT_EQ(f.dialogs.lastMessage().text.rfind("Compilation impossible : " + row.place, 0), 0u)
+            << f.dialogs.lastMessage().text;
+        EXPECT_TRUE(f.state.compileFailed) << row.place;
+        EXPECT_TRUE(f.files.log.empty()) << row.place;
+    }
+}
+
+// On the CD's Windows machines, names differing only in letter case are one file.
+TEST_F(BuildFixture, TwoFilesForOneNameOfQorAreRefused)
+{
+    struct Row {
+        std::string first, second;
+    } rows[] = {{"/photos/fond.jpg", "/archives/fond.jpg"}, {"/photos/Fond.JPG", "/archives/fond.jpg"},
+                {"/photos/autorun.exe", "/prog/compil.exe"}};
+    for (const auto& row : rows) {
+        BuildWorld f;
+        f.project.backgroundImage = row.first;
+        f.files.addFile(row.first, "1");
+        MenuButton& b = f.addButton("code", "b3", false);
+        b.normalImage = row.second;
+        f.files.addFile(row.second, "2");
+        EXPECT_EQ(f.compile(f.request()), CompileOutcome::Refused) << row.second;
+        const std::string text = f.dialogs.lastMessage().text;
+        EXPECT_NE(text.find("'" + row.first + "'"), std::string::npos) << text;
+        EXPECT_NE(text.find("'" + row.second + "'"), std::string::npos) << text;
+        EXPECT_TRUE(f.state.compileFailed);
+        EXPECT_TRUE(f.files.log.empty());
+    }
+}
+
+// A picture the players could not show is named before anything is written;
+// a missing one is still the copy's error.
+TEST_F(BuildFixture, UnreadablePicturesAreRefusedByName)
+{
+    const std::string tooLarge = std::string("GIF89a\x30\x75\x30\x75\0\0\0", 13) + ";";   // 30000 x 30000
+    struct Row {
+        std::string path, bytes, expected;
+    } rows[] = {
+        {"/proj/fond.jpg", "", "l'image '/proj/fond.jpg' (l'image de fond) est illisible : le fichier est vide."},
+        {"/proj/b1_s.png", "pas une image",
+         "(l'image de survol du bouton n°1) est illisible : ce n'est pas une image BMP, JPEG, PNG, GIF ou ICO."},
+        {"/proj/b2_c.png_transp.bmp", picture("BMP").substr(0, 12),
+         "(l'image du clic du bouton n°2) est illisible : le fichier est incomplet."},
+        {"/proj/b2.png", tooLarge,
+         "illisible : elle mesure 30000 × 30000 pixels, un menu en affiche au plus 16384 × 16384."},
+    };
+    for (const auto& row : rows) {
+        BuildWorld f;
+        f.files.files[row.path] = row.bytes;
+        f.files.log.clear();
+        EXPECT_EQ(f.compile(f.request()), CompileOutcome::Refused) << row.path;
+        EXPECT_NE(f.dialogs.lastMessage().text.find(row.expected), std::string::npos) << f.dialogs.lastMessage().text;
+        EXPECT_TRUE(f.state.compileFailed);
+        EXPECT_TRUE(f.files.log.empty());
+    }
+}
+
+TEST_F(BuildFixture, ASubMenuNeitherReplacesAPlayerNorShadowsAName)
+{
+    struct Row {
+        std::string present;   // in qor/ already
+        std::string shipped;   // the sub-menu's background
+        bool refused;
+    } rows[] = {{"/cd/qor/Fond.jpg", "/img/fond.jpg", true}, {"/cd/qor/autorun.exe", "/img/AUTORUN.EXE", true},
+                {"/cd/qor/fond.jpg", "/img/fond.jpg", false}};
+    for (const auto& row : rows) {
+        BuildWorld f;
+        f.files.addFile("/cd/qor/autorun.exe", "MAIN");
+        f.files.addFile(row.present, picture("MAIN"));
+        f.project.backgroundImage = row.shipped;
+        f.files.addFile(row.shipped, picture("SUB"));
+        f.files.log.clear();
+        CompileRequest r = f.request();
+        r.subMenu = true;
+        EXPECT_EQ(f.compile(r), row.refused ? CompileOutcome::Refused : CompileOutcome::Done) << row.shipped;
+        if (row.refused) {
+            EXPECT_EQ(f.dialogs.lastMessage(), fileNameClashMessage(row.shipped, row.present));
+            EXPECT_TRUE(f.files.log.empty());
+        } else {
+            EXPECT_EQ(f.files.bytes(row.present), picture("SUB"));   // shared, copied again
+        }
+    }
+}
+
+TEST_F(BuildFixture, OneFileNamedTwiceIsCopiedOnce)
+{
+    MenuButton& b = addButton("code", "b3", false);
+    b.hoverImage = b.normalImage;
+    b.pressedImage = "/proj/" + b.normalImage;   // the same file by its full path
+    project.transparencyImage = "fond.jpg";
+    ASSERT_EQ(compile(request()), CompileOutcome::Done);
+    EXPECT_EQ(files.logged("copy /proj/b3.png ").size(), 1u);
+    EXPECT_EQ(files.logged("copy /proj/fond.jpg ").size(), 1u);
 }
 
 TEST_F(BuildFixture, ASourceThatIsItsOwnTargetStaysWhole)
 {
     files.addFile("/cd/qor/autorun.exe", "MAIN");
     project.backgroundImage = "/cd/qor/fond.jpg";
-    files.addFile("/cd/qor/fond.jpg", "IN PLACE");
+    files.addFile("/cd/qor/fond.jpg", picture("IN PLACE"));
     CompileRequest r = request();
     r.subMenu = true;
     ASSERT_EQ(compile(r), CompileOutcome::Done);
-    EXPECT_EQ(files.bytes("/cd/qor/fond.jpg"), "IN PLACE");
+    EXPECT_EQ(files.bytes("/cd/qor/fond.jpg"), picture("IN PLACE"));
 }
 
 TEST_F(BuildFixture, ProgressCountsTheBytesOfEveryCopy)

@@ -52,8 +52,8 @@ TEST(FileInfo, ValidateCopiesTheAuthorFieldsAndCleansTheNotes)
 
     MenuProject p;
     p.filePath = "/p/a.qor";
-    applyAuthorFields(p, {"Jeanne", "j@example.org", "http://j.example.org", "a¤b"});
-    EXPECT_EQ(authorFieldsOf(p), (AuthorFields{"Jeanne", "j@example.org", "http://j.example.org", "a*b"}));
+    applyAuthorFields(p, {"Jea¬nne", "j@exa¤mple.org\r\n", std::string("http://j.example.org\0", 21), "a¤b"});
+    EXPECT_EQ(authorFieldsOf(p), (AuthorFields{"Jeanne", "j@example.org  ", "http://j.example.org", "a*b"}));
     EXPECT_EQ(p.filePath, "/p/a.qor");
 }
 

@@ -25,8 +25,9 @@ cp "$resources/autorun.ico" "$resources/install.bat" "$prog/"
 printf 'MZ stand-in player' > "$prog/compil.exe"
 qorc=$prog/qorc
 cp "$here/menu.qor" "$work/proj/menu.qor"
-ppm() { printf 'P6\n4 2\n255\n\377\0\0\0\377\0\0\0\377\377\377\377\377\0\0\0\377\0\0\0\377\377\377\377' > "$1"; }
-for f in fond bouton bouton_s bouton_c; do ppm "$work/proj/$f.ppm"; done
+# A 4 x 2 Windows bitmap: red, green, blue, white, twice.
+bmp() { printf 'BMN\0\0\0\0\0\0\0006\0\0\0(\0\0\0\004\0\0\0\002\0\0\0\001\0\030\0\0\0\0\0\030\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\377\0\377\0\377\0\0\377\377\377\0\0\377\0\377\0\377\0\0\377\377\377' > "$1"; }
+for f in fond bouton bouton_s bouton_c; do bmp "$work/proj/$f.bmp"; done
 printf 'MIDI' > "$work/proj/musique.mid"
 printf 'RIFF' > "$work/proj/clic.wav"
 printf 'AVI' > "$work/proj/videos/intro.avi"
@@ -45,14 +46,14 @@ check "Autorun.inf byte for byte" cmp -s "$work/autorun.expected" "$cd_dir/Autor
 check "player bytes kept" [ "$(head -c 18 "$cd_dir/qor/autorun.exe")" = "MZ stand-in player" ]
 check "data line appended once, ends with CR LF" ends_with_crlf "$cd_dir/qor/autorun.exe"
 line=$(data_line "$cd_dir/qor/autorun.exe")
-check "data line header and names" grep -q '^(debut)¬FICHIER DAT COMPATIBLE QOR V2.0¬\[Général\]¬fond.ppm¬ 9600 ¬ 7200 ¬ 1 ¬Démo¬Jeanne¬musique.mid¬\[ParamsPlus\]' <<< "$line"
-check "transparent button named by its baked images" grep -q '¬\[Bouton\]¬ 300 ¬ 300 ¬bouton.ppm_transp.bmp¬bouton_s.ppm_transp.bmp¬bouton_c.ppm_transp.bmp¬code¬MsgBox "a"¤MsgBox "b"¬¬ 1 ¬ 255 ¬' <<< "$line"
+check "data line header and names" grep -q '^(debut)¬FICHIER DAT COMPATIBLE QOR V2.0¬\[Général\]¬fond.bmp¬ 9600 ¬ 7200 ¬ 1 ¬Démo¬Jeanne¬musique.mid¬\[ParamsPlus\]' <<< "$line"
+check "transparent button named by its baked images" grep -q '¬\[Bouton\]¬ 300 ¬ 300 ¬bouton.bmp_transp.bmp¬bouton_s.bmp_transp.bmp¬bouton_c.bmp_transp.bmp¬code¬MsgBox "a"¤MsgBox "b"¬¬ 1 ¬ 255 ¬' <<< "$line"
 check "text record top before left" grep -q '¬\[Texte\]¬Un texte¬.*¬ 600 ¬ 600 ¬ 2000 ¬ 300 ¬00¬para1¬para2¬para3¬para4¬(fin des données QOR)$' <<< "$line"
-for f in autorun.ico install.bat fond.ppm bouton.ppm bouton_s.ppm bouton_c.ppm bouton.ppm_transp.bmp \
-         bouton_s.ppm_transp.bmp bouton_c.ppm_transp.bmp musique.mid clic.wav; do
+for f in autorun.ico install.bat fond.bmp bouton.bmp bouton_s.bmp bouton_c.bmp bouton.bmp_transp.bmp \
+         bouton_s.bmp_transp.bmp bouton_c.bmp_transp.bmp musique.mid clic.wav; do
   check "qor/$f copied" [ -f "$cd_dir/qor/$f" ]
 done
-check "baked images are BMP" [ "$(head -c 2 "$cd_dir/qor/bouton.ppm_transp.bmp")" = "BM" ]
+check "baked images are BMP" [ "$(head -c 2 "$cd_dir/qor/bouton.bmp_transp.bmp")" = "BM" ]
 check "media of video buttons stay off qor/" [ ! -e "$cd_dir/qor/intro.avi" ]
 check "steps on standard output" grep -q "Copie d'aurorun.exe..." "$work/out"
 check "no message when all went well" [ ! -s "$work/err" ]
@@ -82,6 +83,39 @@ check "sub-menu without main menu" grep -q "Aucun menu principal trouvé" "$work
 # --- bad input
 "$qorc" build "$project" "$work/nowhere" > /dev/null 2> "$work/err"
 check "missing target refused" [ $? -eq 1 ] && check "Répertoire incorrect" grep -q "Répertoire incorrect !" "$work/err"
+for target in "" / "$work/../../../.."; do
+  "$qorc" build "$project" "$target" > /dev/null 2> "$work/err"
+  check "target '$target' refused" [ $? -eq 1 ] && check "as an incorrect folder" grep -q "Répertoire incorrect !" "$work/err"
+done
+"$qorc" build "$project" "$cd_dir" --sub-menu AUTORUN > /dev/null 2> "$work/err"
+check "sub-menu named as the main menu in capitals refused" grep -q "déja été créé" "$work/err"
+check "main menu kept" [ "$(md5sum < "$cd_dir/qor/autorun.exe")" != "" ] && check "no AUTORUN.exe" [ ! -e "$cd_dir/qor/AUTORUN.exe" ]
+
+# Values the data line cannot carry, pictures the players cannot show, two
+# files for one name: each named, exit 1, nothing written.
+hostile() {  # hostile NAME EXPECTED_MESSAGE QOR_FILE [qorc options]
+  local name=$1 expected=$2 qor=$3; shift 3
+  rm -rf "$work/hostile"; mkdir -p "$work/hostile"
+  "$qorc" build "$qor" "$work/hostile" "$@" > /dev/null 2> "$work/err"
+  check "$name refused" [ $? -eq 1 ]
+  check "$name named" grep -qF "$expected" "$work/err"
+  check "$name wrote nothing" [ -z "$(ls -A "$work/hostile")" ]
+}
+variant() {  # variant FILE LINE TEXT: the project with one line changed (TEXT in Windows-1252)
+  LC_ALL=C awk -v n="$2" -v t="$3" 'NR == n { $0 = t "\r" } 1' "$project" > "$1"
+}
+hostile "¬ in the project name" "Le nom du projet" "$project" --name $'D\xc2\xacmo'
+hostile "line break in the author" "L'auteur du projet" "$project" --author $'a\nb'
+cp "$work/proj/fond.bmp" "$work/proj/fo¬nd.bmp"
+variant "$work/proj/sep.qor" 14 $'fo\xacnd.bmp'
+hostile "¬ in the background's name" "L'image de fond (« fo¬nd.bmp »)" "$work/proj/sep.qor"
+mkdir -p "$work/proj/archives"; cp "$work/proj/bouton_s.bmp" "$work/proj/archives/FOND.bmp"
+variant "$work/proj/clash.qor" 64 "$work/proj/archives/FOND.bmp"
+hostile "two files for qor/fond.bmp" "'$work/proj/archives/FOND.bmp'" "$work/proj/clash.qor"
+printf 'pas une image' > "$work/proj/texte.bmp"
+variant "$work/proj/text.qor" 14 texte.bmp
+hostile "a text file named .bmp" "texte.bmp' (l'image de fond) est illisible" "$work/proj/text.qor"
+
 "$qorc" build "$project" > /dev/null 2>&1
 check "bad usage exits 2" [ $? -eq 2 ]
 "$qorc" build "$project" "$cd_dir" --iso x > /dev/null 2>&1
