@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QFontInfo>
 #include <QTest>
 
 #include "editor/platform/colours.h"
@@ -42,6 +43,8 @@ private slots:
     void systemModalMessageStaysOnTop();
     void messageTextIsPlainWithLineFeeds();
     void fileDialogs();
+    void fontDialogKeepsWhatWasNotChanged_data();
+    void fontDialogKeepsWhatWasNotChanged();
 
     void settingsRoundTrip();
     void settingsKeysIgnoreLetterCase();
@@ -252,6 +255,40 @@ void TestPlatform::messageBoxes()
         const QString t = b->text();
         QCOMPARE(a, t == "Oui" ? Answer::Yes : t == "Non" ? Answer::No : t == "Annuler" ? Answer::Cancel : Answer::Ok);
     }
+}
+
+void TestPlatform::fontDialogKeepsWhatWasNotChanged_data()
+{
+    // The font the dialog hands back, from the one it was started on.
+    QTest::addColumn<QString>("family");  // empty: as the dialog showed the asked one
+    QTest::addColumn<double>("size");
+    QTest::addColumn<bool>("bold");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("keptSize");
+    QTest::newRow("confirmed unchanged") << QString() << 8.25 << false << "MS Sans Serif" << 8.25;
+    QTest::newRow("size shown rounded") << QString() << 8.3 << false << "MS Sans Serif" << 8.25;
+    QTest::newRow("size shown whole") << QString() << 8.0 << false << "MS Sans Serif" << 8.25;
+    QTest::newRow("bold only") << QString() << 8.25 << true << "MS Sans Serif" << 8.25;
+    QTest::newRow("bigger") << QString() << 12.0 << false << "MS Sans Serif" << 12.0;
+    QTest::newRow("another family") << "Courier New" << 8.25 << false << "Courier New" << 8.25;
+}
+
+void TestPlatform::fontDialogKeepsWhatWasNotChanged()
+{
+    QFETCH(QString, family);
+    QFETCH(double, size);
+    QFETCH(bool, bold);
+    QFETCH(QString, name);
+    QFETCH(double, keptSize);
+    const FontChoice asked{"MS Sans Serif", 8.25, false, false, false, false};
+    // The dialog shows the family this system substitutes for the asked one.
+    QFont chosen(family.isEmpty() ? QFontInfo(toQFont(asked)).family() : family);
+    chosen.setPointSizeF(size);
+    chosen.setBold(bold);
+    const FontChoice kept = changedFont(asked, chosen);
+    QCOMPARE(QString::fromStdString(kept.name), name);
+    QCOMPARE(kept.size, keptSize);
+    QCOMPARE(kept.bold, bold);
 }
 
 void TestPlatform::systemModalMessageStaysOnTop()

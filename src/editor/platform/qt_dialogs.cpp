@@ -6,12 +6,15 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QInputDialog>
 #include <QPushButton>
 
 #include "editor/platform/colours.h"
 #include "editor/platform/file_filter.h"
 #include "editor/platform/qt_text.h"
+
+#include <cmath>
 
 namespace qor {
 namespace {
@@ -191,7 +194,7 @@ std::optional<FontChoice> QtDialogs::pickFont(const FontChoice& initial)
     const QFont chosen = QFontDialog::getFont(&ok, toQFont(initial), dialogParent());
     if (!ok)
         return std::nullopt;
-    return fromQFont(chosen);
+    return changedFont(initial, chosen);
 }
 
 QFont toQFont(const FontChoice& font)
@@ -215,6 +218,21 @@ FontChoice fromQFont(const QFont& font)
     c.italic = font.italic();
     c.strikethrough = font.strikeOut();
     c.underline = font.underline();
+    return c;
+}
+
+FontChoice changedFont(const FontChoice& initial, const QFont& chosen)
+{
+    FontChoice c = fromQFont(chosen);
+    const QFont asked = toQFont(initial);
+    const QString family = chosen.family();
+    if (family.compare(asked.family(), Qt::CaseInsensitive) == 0 ||
+        family.compare(QFontInfo(asked).family(), Qt::CaseInsensitive) == 0)
+        c.name = initial.name;
+    const double size = chosen.pointSizeF();
+    const auto near = [size](double shown) { return std::abs(size - shown) < 0.01; };
+    if (near(initial.size) || near(std::round(initial.size * 10) / 10) || near(std::round(initial.size)))
+        c.size = initial.size;
     return c;
 }
 
