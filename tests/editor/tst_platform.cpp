@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QFontInfo>
+#include <QFontDialog>
 #include <QTest>
 
 #include "editor/platform/colours.h"
@@ -259,18 +259,16 @@ void TestPlatform::messageBoxes()
 
 void TestPlatform::fontDialogKeepsWhatWasNotChanged_data()
 {
-    // The font the dialog hands back, from the one it was started on.
-    QTest::addColumn<QString>("family");  // empty: as the dialog showed the asked one
-    QTest::addColumn<double>("size");
+    // What the user did in the dialog started on "MS Sans Serif" 8.25.
+    QTest::addColumn<QString>("family");  // empty: the family the dialog showed
+    QTest::addColumn<double>("size");     // 0: the size the dialog showed
     QTest::addColumn<bool>("bold");
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("keptSize");
-    QTest::newRow("confirmed unchanged") << QString() << 8.25 << false << "MS Sans Serif" << 8.25;
-    QTest::newRow("size shown rounded") << QString() << 8.3 << false << "MS Sans Serif" << 8.25;
-    QTest::newRow("size shown whole") << QString() << 8.0 << false << "MS Sans Serif" << 8.25;
-    QTest::newRow("bold only") << QString() << 8.25 << true << "MS Sans Serif" << 8.25;
+    QTest::newRow("confirmed unchanged") << QString() << 0.0 << false << "MS Sans Serif" << 8.25;
+    QTest::newRow("bold only") << QString() << 0.0 << true << "MS Sans Serif" << 8.25;
     QTest::newRow("bigger") << QString() << 12.0 << false << "MS Sans Serif" << 12.0;
-    QTest::newRow("another family") << "Courier New" << 8.25 << false << "Courier New" << 8.25;
+    QTest::newRow("another family") << "Courier New" << 0.0 << false << "Courier New" << 8.25;
 }
 
 void TestPlatform::fontDialogKeepsWhatWasNotChanged()
@@ -281,11 +279,16 @@ void TestPlatform::fontDialogKeepsWhatWasNotChanged()
     QFETCH(QString, name);
     QFETCH(double, keptSize);
     const FontChoice asked{"MS Sans Serif", 8.25, false, false, false, false};
-    // The dialog shows the family this system substitutes for the asked one.
-    QFont chosen(family.isEmpty() ? QFontInfo(toQFont(asked)).family() : family);
-    chosen.setPointSizeF(size);
+    // The dialog shows a family and size of its own for a font this system lacks.
+    QFontDialog dialog(toQFont(asked));
+    const QFont shown = dialog.currentFont();
+    QFont chosen = shown;
+    if (!family.isEmpty())
+        chosen.setFamily(family);
+    if (size > 0)
+        chosen.setPointSizeF(size);
     chosen.setBold(bold);
-    const FontChoice kept = changedFont(asked, chosen);
+    const FontChoice kept = changedFont(asked, shown, chosen);
     QCOMPARE(QString::fromStdString(kept.name), name);
     QCOMPARE(kept.size, keptSize);
     QCOMPARE(kept.bold, bold);

@@ -22,6 +22,7 @@ SHAPE_PANEL = {"Aperçu": (70, 50), "Recommencer": (70, 78), "Pas de forme": (70
 
 # The properties panel ("Paramètres") showing a button, and the window.
 PANEL_BUTTON = {"Actions au survol": (141, 238)}
+PANEL_SELECTOR = (90, 12)
 PANEL_WINDOW = {"OK": (164, 99), "Couleur de fond": (123, 190), "timer Modif.": (141, 396)}
 # The appearance editor of the main window, once it is tall.
 APPEARANCE = {"list": (188, 81), "Charger": (414, 81), "Fermer": (419, 252)}
@@ -58,11 +59,11 @@ class Editor:
     def tool(self, caption):
         self.toolbox.click(*TOOLBOX[caption])
 
-    def question(self, caption, answer):
-        """A three-button question ("Oui", "Non", "Annuler") answered with the mouse."""
+    def question(self, caption, answer, buttons=("Oui", "Non", "Annuler")):
+        """A question answered with the mouse on its button, counted from the right."""
         box = self.d.window("^%s$" % re.escape(caption))
         _, _, width, height = box.geometry()
-        offset = {"Oui": 237, "Non": 143, "Annuler": 54}[answer]
+        offset = (54, 143, 237)[len(buttons) - 1 - buttons.index(answer)]
         box.click(width - offset, height - 24)
         self.d.gone(box)
 
@@ -339,7 +340,79 @@ def wizard(d):
     need(button[2].endswith("bouton1_normal.bmp"), "the wizard's button image is %r" % button[2])
 
 
+# --- a menu from nothing ---------------------------------------------------------
+
+PANEL_WINDOW_BROWSE_BACKGROUND = (141, 58)
+PANEL_TEXT = {"Modif. police": (128, 101)}
+PANEL_BUTTON_TRANSPARENT = (23, 334)
+
+
+def menu_from_nothing(d):
+    e = Editor(d)
+    pictures = colours_of(d)
+    background = write_bmp(d.file("fond.bmp"), 200, 150, (255, 230, 0))
+    left, top, _, _ = e.sheet.geometry()
+
+    e.tool("Multimédia")
+    e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
+    # Shift + drag: the button goes where it is let go, grab point kept.
+    d.drag((left + 40, top + 25), (left + 400, top + 300), modifier="shift")
+    # The background picture, from the window's panel.
+    e.panel.click(*PANEL_SELECTOR)
+    time.sleep(0.3)
+    d.key("Home", "Return")
+    time.sleep(0.3)
+    e.panel.click(*PANEL_WINDOW_BROWSE_BACKGROUND)
+    d.answer_file_dialog("^Image de fond", background)
+    d.wait(lambda: distance(d.screenshot().pixel(left + 600, top + 500), (255, 230, 0)) <= 8,
+           "the background picture on the worksheet")
+
+    # A text box, typed into where it stands.
+    e.tool("Créer")
+    e.sheet.click(100, 60)
+    d.key("ctrl+a")
+    d.type("Bienvenue sur le CD")
+    before_font = section(e.save_as("avant.qor"), "[Texte]")
+    e.sheet.click(100, 60)
+    time.sleep(0.3)
+    e.panel.click(*PANEL_TEXT["Modif. police"])
+    font = d.window("^Choisir une police|^Sélectionner|^Police|^Select Font")
+    font.activate()
+    d.key("Return")
+    d.gone(font)
+
+    # A second button, deleted again with the Delete key.
+    e.tool("Quitter")
+    e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
+    e.sheet.click(40, 25)
+    time.sleep(0.3)
+    d.key("Delete")
+    e.question("Suppression", "Oui", buttons=("Oui", "Non"))
+
+    # The first button made transparent.
+    e.sheet.click(400, 300)
+    time.sleep(0.3)
+    e.panel.click(*PANEL_BUTTON_TRANSPARENT)
+    time.sleep(0.3)
+
+    lines = e.save_as("menu.qor")
+    general = section(lines, "[Général]")
+    need(general[0].endswith("fond.bmp"), "the background picture was saved as %r" % general[0])
+    text = section(lines, "[Texte]")
+    need(text[0] == "Bienvenue sur le CD", "the text box was saved as %r" % text[0])
+    need(text[1:] == before_font[1:], "a font dialog confirmed unchanged changed the text box: %r became %r"
+         % (before_font[1:], text[1:]))
+    buttons = [i for i, line in enumerate(lines) if line == "[Bouton]"]
+    need(len(buttons) == 1, "%d buttons saved, not the one left after the deletion" % len(buttons))
+    button = button_block(lines, 1)
+    moved = (float(button[0]), float(button[1]))
+    need(abs(moved[0] - 373 * 15) <= 30 and abs(moved[1] - 288 * 15) <= 30,
+         "the dragged button was saved at %r twips" % (moved,))
+    need(button[8].strip() == "1", "the button made transparent was saved with %r" % button[8])
+
+
 JOURNEYS = {
+    "menu_from_nothing": menu_from_nothing,
     "wizard": wizard,
     "build_and_run": build_and_run,
     "scripts": scripts,

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
-#include <QFontInfo>
 #include <QInputDialog>
 #include <QPushButton>
 
@@ -190,11 +189,12 @@ std::optional<Colour> QtDialogs::pickColour(Colour initial)
 
 std::optional<FontChoice> QtDialogs::pickFont(const FontChoice& initial)
 {
-    bool ok = false;
-    const QFont chosen = QFontDialog::getFont(&ok, toQFont(initial), dialogParent());
-    if (!ok)
+    QFontDialog dialog(toQFont(initial), dialogParent());
+    // What the dialog shows for the asked font before the user touches it.
+    const QFont shown = dialog.currentFont();
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return changedFont(initial, chosen);
+    return changedFont(initial, shown, dialog.selectedFont());
 }
 
 QFont toQFont(const FontChoice& font)
@@ -221,17 +221,14 @@ FontChoice fromQFont(const QFont& font)
     return c;
 }
 
-FontChoice changedFont(const FontChoice& initial, const QFont& chosen)
+FontChoice changedFont(const FontChoice& initial, const QFont& shown, const QFont& chosen)
 {
     FontChoice c = fromQFont(chosen);
-    const QFont asked = toQFont(initial);
-    const QString family = chosen.family();
-    if (family.compare(asked.family(), Qt::CaseInsensitive) == 0 ||
-        family.compare(QFontInfo(asked).family(), Qt::CaseInsensitive) == 0)
+    if (chosen.family().compare(shown.family(), Qt::CaseInsensitive) == 0 ||
+        chosen.family().compare(toQt(initial.name), Qt::CaseInsensitive) == 0)
         c.name = initial.name;
     const double size = chosen.pointSizeF();
-    const auto near = [size](double shown) { return std::abs(size - shown) < 0.01; };
-    if (near(initial.size) || near(std::round(initial.size * 10) / 10) || near(std::round(initial.size)))
+    if (std::abs(size - shown.pointSizeF()) < 0.01 || std::abs(size - initial.size) < 0.01)
         c.size = initial.size;
     return c;
 }
