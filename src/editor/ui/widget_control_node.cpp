@@ -213,9 +213,13 @@ bool WidgetControlNode::writeText(ControlProperty property, const QString& text)
         return true;
     }
     if (property == ControlProperty::FontName && w) {
-        QFont f = w->font();
-        f.setFamily(text);
-        w->setFont(f);
+        // Setting a font, even the same one, makes the widget and its
+        // children work their fonts out again: only a change is made.
+        if (w->font().family() != text) {
+            QFont f = w->font();
+            f.setFamily(text);
+            w->setFont(f);
+        }
         return true;
     }
     return false;
@@ -241,7 +245,10 @@ bool WidgetControlNode::writeColour(ControlProperty property, std::int64_t colou
             for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
                 p.setColor(group, role, c);
     }
-    w->setPalette(p);
+    // The same colours again (the default appearance on the style's own
+    // palette): nothing to repaint or hand down to the children.
+    if (p != w->palette())
+        w->setPalette(p);
     return true;
 }
 
