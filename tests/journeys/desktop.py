@@ -274,13 +274,16 @@ class Desktop:
         return self.run(["xdotool", *args], check=check)
 
     def wait(self, condition, reason, limit=None):
-        deadline = time.monotonic() + (limit or PATIENCE)
+        started = time.monotonic()
+        deadline = started + (limit or PATIENCE)
         while True:
             if self.editor is not None and self.editor.poll() is not None:
                 raise JourneyFailed("the editor ended (%s) while waiting: %s; it said: %s"
                                     % (self.editor.returncode, reason, self.log_tail("qor.log")))
             value = condition()
             if value:
+                if os.environ.get("QOR_JOURNEY_TRACE"):
+                    print("%5.1f s for %s" % (time.monotonic() - started, reason))
                 return value
             if time.monotonic() > deadline:
                 raise JourneyFailed("waited in vain: " + reason)
@@ -328,20 +331,28 @@ class Desktop:
 
     # --- acting ---------------------------------------------------------
 
-    def click_at(self, x, y, button=1, double=False):
+    def move_to(self, x, y):
+        # xdotool's --sync waits for a motion, which never comes when the
+        # pointer already stands there.
+        here = self.xdotool("getmouselocation", "--shell", check=False)
+        if "X=%d\n" % x in here and "Y=%d\n" % y in here:
+            return
         self.xdotool("mousemove", "--sync", str(x), str(y))
+
+    def click_at(self, x, y, button=1, double=False):
+        self.move_to(x, y)
         self.xdotool("click", *(["--repeat", "2", "--delay", "80"] if double else []), str(button))
 
     def drag(self, start, end, button=1, modifier=None):
         if modifier:
             self.xdotool("keydown", modifier)
-        self.xdotool("mousemove", "--sync", str(start[0]), str(start[1]))
+        self.move_to(*start)
         self.xdotool("mousedown", str(button))
         steps = 6
         for i in range(1, steps + 1):
             x = start[0] + (end[0] - start[0]) * i // steps
             y = start[1] + (end[1] - start[1]) * i // steps
-            self.xdotool("mousemove", "--sync", str(x), str(y))
+            self.move_to(x, y)
             time.sleep(0.03)
         self.xdotool("mouseup", str(button))
         if modifier:

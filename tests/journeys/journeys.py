@@ -23,6 +23,8 @@ SHAPE_PANEL = {"Aperçu": (70, 50), "Recommencer": (70, 78), "Pas de forme": (70
 # The properties panel ("Paramètres") showing a button, and the window.
 PANEL_BUTTON = {"Actions au survol": (141, 238)}
 PANEL_SELECTOR = (90, 12)
+# The window's panel scrolled to its end.
+PANEL_SCROLLED = {"Minuteur": (11, 146), "timer Modif.": (141, 229), "global Modif.": (141, 295)}
 PANEL_WINDOW = {"OK": (164, 99), "Couleur de fond": (123, 190), "timer Modif.": (141, 396)}
 # The appearance editor of the main window, once it is tall.
 APPEARANCE = {"list": (188, 81), "Charger": (414, 81), "Fermer": (419, 252)}
@@ -128,10 +130,31 @@ def scripts(d):
                   if before.pixel(x, y) != after.pixel(x, y))
     need(changed > 50, "typing into the hover script left its text area as it was")
     e.close_window(editor)
+
+    # The timer's and the global slots, from the window's panel scrolled down.
+    e.panel.click(*PANEL_SELECTOR)
+    time.sleep(0.3)
+    d.key("Home", "Return")
+    _, _, width, height = e.panel.geometry()
+    for _ in range(8):
+        e.panel.click(width - 7, height - 10)
+    e.panel.click(*PANEL_SCROLLED["Minuteur"])
+    for button, caption, typed in ((PANEL_SCROLLED["timer Modif."], "^Code VBS du minuteur$", "y=2"),
+                                   (PANEL_SCROLLED["global Modif."], "^Code VBS", "dim zz")):
+        e.panel.click(*button)
+        editor = d.window(caption)
+        editor.click(*SCRIPT_TEXT_AREA)
+        d.key("ctrl+a", "Delete")
+        d.type(typed + "\n")
+        time.sleep(0.3)
+        e.close_window(editor)
+
     lines = e.save_as("scripts.qor")
     hover = button_block(lines, 1)[7]
     need(hover == "if a = b then MsgBox fenetre.Caption¤x=1",
          "the hover script was saved as %r, not formatted as typed" % hover)
+    for formatted in ("y = 2¤", "Dim zz¤"):
+        need(formatted in lines, "no slot was saved as %r (typed, then formatted by Enter)" % formatted)
 
 
 # --- looks ------------------------------------------------------------------
