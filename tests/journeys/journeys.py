@@ -27,7 +27,7 @@ PANEL_SELECTOR = (90, 12)
 PANEL_SCROLLED = {"Minuteur": (11, 146), "timer Modif.": (141, 229), "global Modif.": (141, 295)}
 PANEL_WINDOW = {"OK": (164, 99), "Couleur de fond": (123, 190), "timer Modif.": (141, 396)}
 # The appearance editor of the main window, once it is tall.
-APPEARANCE = {"list": (188, 81), "Charger": (414, 81), "Fermer": (419, 252)}
+APPEARANCE = {"list": (188, 81), "Charger": (414, 81), "Sauver": (414, 169), "Fermer": (419, 252)}
 # "Propriétés": the read-only "Editeur :" field, "Notes :" and "Valider".
 INFO_EDITOR = (250, 40)
 INFO_NOTES = (250, 300)
@@ -177,6 +177,21 @@ def looks(d):
         need(swatch == WHITE, "under %s the \"Couleur de fond :\" swatch shows %s, not the project's white"
              % (name, swatch))
         d.keep_screenshot("looks-" + name)
+    # A message specified without a title shows none: "Sauver" with no name.
+    e.menu("o", "a")
+    d.wait(lambda: e.main.geometry()[3] > 200, "the appearance editor to open")
+    def untitled():
+        # The editor's own windows (its X class), those without a caption.
+        out = d.xdotool("search", "--onlyvisible", "--class", "^qor$", check=False)
+        return {w for w in out.split() if d.caption(w) == ""}
+    others = untitled()
+    e.main.click(*APPEARANCE["Sauver"])
+    message = d.wait(lambda: untitled() - others, "the \"Champs nom vide !!!\" message, with an empty title").pop()
+    box = Window(d, message, "")
+    _, _, width, height = box.geometry()
+    box.click(width - 54, height - 24)   # "OK"
+    d.wait(lambda: message not in untitled(), "the untitled message to close")
+    e.main.click(*APPEARANCE["Fermer"])
     e.menu("f", *(["Down"] * 6), "Return")
     info = d.window("^Propriétés$")
     shot = d.screenshot()
