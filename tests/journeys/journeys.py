@@ -12,7 +12,7 @@ import os
 import re
 import time
 
-from desktop import Window, distance, need, read_project, section, write_bmp
+from desktop import JourneyFailed, Window, distance, need, read_project, section, write_bmp
 
 # Client-area offsets of the controls a journey uses.
 TOOLBOX = {"Multimédia": (79, 50), "Quitter": (79, 78), "Code VBS": (79, 106), "Créer": (79, 176),
@@ -449,7 +449,59 @@ def menu_from_nothing(d):
     need(button[8].strip() == "1", "the button made transparent was saved with %r" % button[8])
 
 
+# --- rough hands -------------------------------------------------------------------
+
+def rough_hands(d):
+    """Keys and clicks a person really makes: none may crash, hang or lose the project."""
+    e = Editor(d)
+    d.type("zz")   # typed while the windows are still settling
+    pictures = colours_of(d)
+    # A double click on the toolbox, then Escape in the dialog it opened.
+    left, top, _, _ = e.toolbox.geometry()
+    d.click_at(left + TOOLBOX["Quitter"][0], top + TOOLBOX["Quitter"][1], double=True)
+    d.window("^Image normale")
+    # Escape in each image dialog, as many as the clicks opened.
+    for _ in range(8):
+        try:
+            dialog = d.window("^Image ", limit=2)
+        except JourneyFailed:
+            break
+        dialog.activate()
+        d.key("Escape")
+        d.gone(dialog)
+    e.tool("Code VBS")
+    e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
+    # Closed while the formatter waits to run on the line just ended.
+    e.panel.click(*PANEL_BUTTON["Actions au survol"])
+    editor = d.window(r"^Actions au survol du bouton [0-9]+$")
+    editor.click(*SCRIPT_TEXT_AREA)
+    d.key("ctrl+a", "Delete")
+    d.type("msgbox 1\n")
+    editor.activate()
+    d.key("alt+F4")
+    d.gone(editor)
+    # 60 000 characters and more, pasted: one line copied and pasted onto itself.
+    e.panel.click(*PANEL_BUTTON["Actions au survol"])
+    editor = d.window(r"^Actions au survol du bouton [0-9]+$")
+    editor.click(*SCRIPT_TEXT_AREA)
+    d.key("ctrl+End")
+    d.type("\n" + "x" * 58)
+    for _ in range(10):
+        d.key("ctrl+a", "ctrl+c", "ctrl+End", "ctrl+v")
+    d.wait(lambda: editor.exists(), "the script editor to stay after the paste")
+    e.close_window(editor)
+    # A button dragged off the worksheet.
+    left, top, width, _ = e.sheet.geometry()
+    d.drag((left + 30, top + 20), (left + width + 60, top + 40), modifier="shift")
+    lines = e.save_as("rough.qor")
+    blocks = [i for i, line in enumerate(lines) if line == "[Bouton]"]
+    hover = button_block(lines, len(blocks))[7]
+    need(hover.startswith("MsgBox 1¤"), "the line typed before closing was saved as %r" % hover[:40])
+    need(len(hover) >= 60000, "the pasted script was saved with %d characters" % len(hover))
+
+
 JOURNEYS = {
+    "rough_hands": rough_hands,
     "menu_from_nothing": menu_from_nothing,
     "wizard": wizard,
     "build_and_run": build_and_run,
