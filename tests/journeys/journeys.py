@@ -25,7 +25,7 @@ PANEL_BUTTON = {"Actions au survol": (141, 238)}
 PANEL_SELECTOR = (90, 12)
 # The window's panel scrolled to its end.
 PANEL_SCROLLED = {"Minuteur": (11, 146), "timer Modif.": (141, 229), "global Modif.": (141, 295)}
-PANEL_WINDOW = {"OK": (164, 99), "Couleur de fond": (123, 190), "timer Modif.": (141, 396)}
+PANEL_WINDOW = {"OK": (164, 99), "Couleur de fond": (123, 190), "Minuteur": (11, 313), "timer Modif.": (141, 396)}
 # The appearance editor of the main window, once it is tall.
 APPEARANCE = {"list": (188, 81), "Charger": (414, 81), "Sauver": (414, 169), "Fermer": (419, 252)}
 # "Propriétés": the read-only "Editeur :" field, "Notes :" and "Valider".
@@ -164,18 +164,41 @@ def looks(d):
     for name in ("Par défaut", "Sombre"):
         if name != "Par défaut":
             choose_appearance(e, name)
-        shot = d.screenshot()
         left, top, _, _ = e.panel.geometry()
-        back = shot.commonest((left, top, 60, 40))
-        need(name != "Sombre" or distance(back, SOMBRE_WINDOW) <= 2,
-             "the properties panel shows %s, not the window colour of %s" % (back, name))
-        enabled = shot.ink(rect_at(left, top, PANEL_WINDOW["OK"]))
-        disabled = shot.ink(rect_at(left, top, PANEL_WINDOW["timer Modif."]))
-        need(distance(enabled, disabled) > 40,
-             "under %s a disabled command's text %s looks like an enabled one's %s" % (name, disabled, enabled))
-        swatch = shot.commonest(rect_at(left, top, PANEL_WINDOW["Couleur de fond"], 10, 6))
-        need(swatch == WHITE, "under %s the \"Couleur de fond :\" swatch shows %s, not the project's white"
-             % (name, swatch))
+
+        def seen():
+            # The panel as it shows now; a busy machine may still be repainting it.
+            shot = d.screenshot()
+            back = shot.commonest((left, top, 60, 40))
+            if name == "Sombre" and distance(back, SOMBRE_WINDOW) > 2:
+                return "the properties panel shows %s, not the window colour of %s" % (back, name)
+            swatch = shot.commonest(rect_at(left, top, PANEL_WINDOW["Couleur de fond"], 10, 6))
+            if swatch != WHITE:
+                return "under %s the \"Couleur de fond :\" swatch shows %s, not the project's white" % (
+                    name, swatch)
+            return ""
+        last = [""]
+
+        def right():
+            last[0] = seen()
+            return not last[0]
+        try:
+            d.wait(right, "the panel under " + name, limit=10)
+        except JourneyFailed:
+            raise JourneyFailed(last[0])
+
+        # The timer's "Modif." cannot be used until "Minuteur" is ticked: its
+        # text must change when it can.
+        def timer_ink():
+            return d.screenshot().ink(rect_at(left, top, PANEL_WINDOW["timer Modif."]))
+        disabled = timer_ink()
+        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        d.wait(lambda: distance(timer_ink(), disabled) > 40,
+               "under %s the timer's \"Modif.\" to look usable once \"Minuteur\" is ticked (its text %s "
+               "stays as it was while disabled)" % (name, disabled), limit=10)
+        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        d.wait(lambda: distance(timer_ink(), disabled) <= 8, "the timer's \"Modif.\" to look disabled again",
+               limit=10)
         d.keep_screenshot("looks-" + name)
     # A message specified without a title shows none: "Sauver" with no name.
     e.menu("o", "a")
