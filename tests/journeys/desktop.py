@@ -6,6 +6,7 @@ clicks, drags and types with xdotool and looks at the screen through
 screenshots. Every wait polls: a loaded machine only makes it slower.
 """
 
+import fcntl
 import os
 import re
 import shutil
@@ -141,6 +142,7 @@ class Desktop:
         self.home = os.path.join(self.work, "home")
         self.files = os.path.join(self.work, "files")
         self.display = None
+        self.display_claim = None
         self.processes = []
         self.editor = None
         self.shots = 0
@@ -193,6 +195,14 @@ class Desktop:
         for n in display_numbers():
             if os.path.exists("/tmp/.X%d-lock" % n) or os.path.exists("/tmp/.X11-unix/X%d" % n):
                 continue
+            # Journeys run side by side: each holds a lock on its number, so
+            # two never start their servers on the same display.
+            claim = open("/tmp/.qor-journey-display-%d.lock" % n, "w")
+            try:
+                fcntl.flock(claim, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            except OSError:
+                claim.close()
+                continue
             log = open(os.path.join(self.work, "xvfb.log"), "wb")
             xvfb = subprocess.Popen(["Xvfb", ":%d" % n, "-screen", "0", "%dx%dx24" % SCREEN,
                                      "-nolisten", "tcp", "-noreset"], stdout=log, stderr=log)
@@ -201,13 +211,15 @@ class Desktop:
                 if os.path.exists("/tmp/.X11-unix/X%d" % n):
                     probe = subprocess.run(["xprop", "-root", "-display", ":%d" % n],
                                            capture_output=True)
-                    if probe.returncode == 0:
+                    if probe.returncode == 0 and xvfb.poll() is None:
                         self.display = ":%d" % n
+                        self.display_claim = claim
                         self.processes.append(xvfb)
                         return
                 time.sleep(0.1)
             tried.append(":%d" % n)
             self.end(xvfb)
+            claim.close()
         raise JourneyFailed("no X display could start (tried %s of %s; Xvfb said: %s)"
                             % (", ".join(tried) or "none free", DISPLAYS, self.log_tail("xvfb.log")))
 
@@ -244,6 +256,9 @@ class Desktop:
         for p in reversed(self.processes):
             self.end(p)
         self.processes = []
+        if self.display_claim:
+            self.display_claim.close()
+            self.display_claim = None
 
     @staticmethod
     def end(process):
