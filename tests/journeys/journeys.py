@@ -109,6 +109,7 @@ def button_block(lines, number):
 # --- scripts ----------------------------------------------------------------
 
 SCRIPT_TEXT_AREA = (300, 200)
+SCRIPT_EDITOR = {"Assistant": (130, 12)}
 
 
 def scripts(d):
@@ -129,6 +130,21 @@ def scripts(d):
     changed = sum(1 for y in range(top + 40, top + height, 2) for x in range(left, left + width, 2)
                   if before.pixel(x, y) != after.pixel(x, y))
     need(changed > 50, "typing into the hover script left its text area as it was")
+    # The assistant's first statement, a message, on a line of its own; its
+    # prompts answered by typing.
+    d.key("Return")
+    editor.click(*SCRIPT_EDITOR["Assistant"])
+    time.sleep(0.4)
+    d.key("Down", "Return")
+    for _ in range(4):
+        try:
+            prompt = d.window("^Bo[iî]te de dialogue", limit=3)
+        except JourneyFailed:
+            break
+        prompt.activate()
+        d.type("Bonjour")
+        d.key("Return")
+        d.gone(prompt)
     e.close_window(editor)
 
     # The timer's and the global slots, from the window's panel scrolled down.
@@ -150,9 +166,11 @@ def scripts(d):
         e.close_window(editor)
 
     lines = e.save_as("scripts.qor")
-    hover = button_block(lines, 1)[7]
-    need(hover == "if a = b then MsgBox fenetre.Caption¤x=1",
+    hover = button_block(lines, 1)[7].split("¤")
+    need(hover[:2] == ["if a = b then MsgBox fenetre.Caption", "x = 1"],
          "the hover script was saved as %r, not formatted as typed" % hover)
+    need(any("Bonjour" in line for line in hover[2:]),
+         "the assistant's message is not in the hover script %r" % hover)
     for formatted in ("y = 2¤", "Dim zz¤"):
         need(formatted in lines, "no slot was saved as %r (typed, then formatted by Enter)" % formatted)
 
