@@ -7,6 +7,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config git ccache
   qt6-base-dev qt6-base-dev-tools libgl-dev libglx-dev
+  libxcb1-dev
   qt6-multimedia-dev qt6-translations-l10n
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   lua5.4 liblua5.4-dev

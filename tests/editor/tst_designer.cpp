@@ -22,6 +22,8 @@
 #include "editor/ui/mouse_position_window.h"
 #include "editor_session.h"
 
+#include "typing.h"
+
 using namespace qor;
 using qor::test::Session;
 
@@ -93,7 +95,7 @@ void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
     panel.elementSelector()->setCurrentIndex(2);
     emit panel.elementSelector()->activated(2);
     QVERIFY(panel.buttonPanel().mediaPanel()->isVisibleTo(&panel));
-    QTest::keyClicks(panel.buttonPanel().mediaField(), QStringLiteral("clip.avi"));
+    QVERIFY(test::typeInto(panel.buttonPanel().mediaField(), QStringLiteral("clip.avi")));
     QCOMPARE(s.core().project().button(2).action, std::string("clip.avi"));
     QTest::mouseClick(toolbox.command(3), Qt::LeftButton);
     QCOMPARE(s.selectorEntries(), (QStringList{"Feuille de travail", "Bouton 1 (code)", "Bouton 2 (vidéo)",
@@ -113,8 +115,9 @@ void TestDesigner::aMenuBuiltWithTheMouseSurvivesSaveAndReopen()
     QCOMPARE(edit.geometry(), text.rect());
     QCOMPARE(edit.toPlainText(), QStringLiteral("Tapez ici le contenu du Texte 1"));
     QCOMPARE(edit.textCursor().position(), int(edit.toPlainText().size()));
-    edit.selectAll();
-    QTest::keyClicks(&edit, QStringLiteral("Bonjour¤ici"));
+    QCOMPARE(test::clickInto(&edit), &edit);
+    test::pressKey(Qt::Key_A, Qt::ControlModifier);
+    test::typeHere(QStringLiteral("Bonjour¤ici"));
     QCOMPARE(s.core().project().text(1).content, std::string("Bonjourici"));
     QCOMPARE(s.dialogs.messages.size(), std::size_t(1));
     QCOMPARE(s.dialogs.lastMessage().text, std::string("Caratère interdit !"));
@@ -188,6 +191,7 @@ void TestDesigner::worksheetPixelsShowColoursAndPlaces()
     p.text(t).height = 750;
     p.text(t).backColor = 0x0000FF00;   // green
     p.text(t).content = "";
+    p.text(t).settings = "1";   // with its scroll bar
     const std::string path = Session::write(folder + "pixels.qor", projectFileBytes(p, RelativePathRule(folder + "pixels.qor", "")));
     s.dialogs.messageAnswers = {Answer::No};
     s.dialogs.openAnswers = {path};
@@ -201,11 +205,17 @@ void TestDesigner::worksheetPixelsShowColoursAndPlaces()
     QCOMPARE(shot.pixelColor(130, 70), QColor(0, 0, 255));
     QCOMPARE(shot.pixelColor(220, 125), QColor(0, 255, 0));
     QCOMPARE(shot.pixelColor(199, 125), QColor(0, 0, 255));
+    // The scroll bar stands at the box's right edge, drawn or typed into.
+    const auto barAtRight = [](const QImage& image) {
+        return image.pixelColor(206, 125) == QColor(0, 255, 0) && image.pixelColor(293, 125) != QColor(0, 255, 0);
+    };
+    QVERIFY(barAtRight(shot));
     // The field typed into shows the box as it was drawn, border included.
     (void)s.windows().worksheet().text(t).edit();
     const QImage typing = s.windows().worksheet().grab().toImage();
     for (QPoint at : {QPoint(220, 125), QPoint(200, 100), QPoint(299, 149), QPoint(199, 125)})
         QCOMPARE(typing.pixelColor(at), shot.pixelColor(at));
+    QVERIFY(barAtRight(typing));
     QCOMPARE(s.windows().worksheet().windowTitle(), QStringLiteral("Feuille de travail - 9000x6000 - 600x400px"));
 }
 
@@ -232,9 +242,20 @@ void TestDesigner::hoverAndPressedPreviewsFollowThePointer()
     sendMouse(&b, QEvent::MouseButtonRelease, {3, 3}, Qt::LeftButton, Qt::NoButton);
     sendMouse(&b, QEvent::MouseMove, {4, 4}, Qt::NoButton, Qt::NoButton);
     QCOMPARE(shows(), QColor(0, 255, 0));
+    // Over the background every button shows its normal image, and the main
+    // window's title highlight ends.
+    s.core().shell().mainWindow().pointerOverTitle(2);
+    QCOMPARE(s.windows().main().highlightedMenuTitle(), 2);
     sendMouse(&sheet, QEvent::MouseMove, {400, 300}, Qt::NoButton, Qt::NoButton);
     QCOMPARE(shows(), QColor(255, 0, 0));
+    QCOMPARE(s.windows().main().highlightedMenuTitle(), -1);
     QCOMPARE(s.windows().mousePosition().readout(3), QStringLiteral("Y=300px"));
+    // A press let go off the button ends there: the hover preview comes back at once.
+    sendMouse(&b, QEvent::MouseButtonPress, {2, 2}, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(&b, QEvent::MouseButtonRelease, in(b, sheet, {400, 300}), Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(shows(), QColor(0, 0, 255));
+    sendMouse(&b, QEvent::MouseMove, {4, 4}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(shows(), QColor(0, 255, 0));
     // The Delete key asks, and Yes deletes the selected button.
     s.dialogs.messageAnswers = {Answer::Yes};
     QTest::keyClick(&sheet, Qt::Key_Delete);

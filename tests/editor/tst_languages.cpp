@@ -24,12 +24,17 @@
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
 #include "editor/project/file_info_window.h"
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include "editor/scripting/script_editor_window.h"
 #include "editor/ui/about_window.h"
 #include "editor/ui/live_window_hooks.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor/wizard/creation_wizard_window.h"
 #include "editor_session.h"
+
+#include "typing.h"
 
 using namespace qor;
 
@@ -206,6 +211,18 @@ void TestLanguages::appearancesColourTheWindowsThatTakeThemOnLoad()
     QCOMPARE(notes->palette().color(QPalette::Text), blue);
     QCOMPARE(notes->font().family(), QStringLiteral("Arial"));
     QVERIFY(!(notes->focusPolicy() & Qt::TabFocus));
+    // What cannot be edited stands on the window's colour.
+    for (const char* name : {"Text5", "Text6", "Text7"})
+        QCOMPARE(info.field(name)->palette().color(QPalette::Base), red);
+    // Out of the Tab order, but a click still gives the fields the caret.
+    QVERIFY(test::typeInto(info.notesField(), QStringLiteral("vu")));
+    QVERIFY(test::typeInto(info.field("Text1"), QStringLiteral("Marie")));
+    QCOMPARE(info.values().notes, std::string("vu"));
+    QCOMPARE(info.values().authorName, std::string("Marie"));
+    // A command that cannot be used keeps the style's greyed text.
+    auto* ok = info.findChild<QPushButton*>(QStringLiteral("Command1"));
+    QCOMPARE(ok->palette().color(QPalette::Active, QPalette::ButtonText), blue);
+    QVERIFY(ok->palette().color(QPalette::Disabled, QPalette::ButtonText) != blue);
     // The toolbox waits for the main windows' turn.
     ToolboxWindow toolbox(kScreen, run.hooks);
     QVERIFY(toolbox.palette().color(QPalette::Window) != red);

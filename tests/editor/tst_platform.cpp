@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QFontDialog>
 #include <QTest>
 
 #include "editor/platform/colours.h"
@@ -42,6 +43,8 @@ private slots:
     void systemModalMessageStaysOnTop();
     void messageTextIsPlainWithLineFeeds();
     void fileDialogs();
+    void fontDialogKeepsWhatWasNotChanged_data();
+    void fontDialogKeepsWhatWasNotChanged();
 
     void settingsRoundTrip();
     void settingsKeysIgnoreLetterCase();
@@ -252,6 +255,43 @@ void TestPlatform::messageBoxes()
         const QString t = b->text();
         QCOMPARE(a, t == "Oui" ? Answer::Yes : t == "Non" ? Answer::No : t == "Annuler" ? Answer::Cancel : Answer::Ok);
     }
+}
+
+void TestPlatform::fontDialogKeepsWhatWasNotChanged_data()
+{
+    // What the user did in the dialog started on "MS Sans Serif" 8.25.
+    QTest::addColumn<QString>("family");  // empty: the family the dialog showed
+    QTest::addColumn<double>("size");     // 0: the size the dialog showed
+    QTest::addColumn<bool>("bold");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("keptSize");
+    QTest::newRow("confirmed unchanged") << QString() << 0.0 << false << "MS Sans Serif" << 8.25;
+    QTest::newRow("bold only") << QString() << 0.0 << true << "MS Sans Serif" << 8.25;
+    QTest::newRow("bigger") << QString() << 12.0 << false << "MS Sans Serif" << 12.0;
+    QTest::newRow("another family") << "Courier New" << 0.0 << false << "Courier New" << 8.25;
+}
+
+void TestPlatform::fontDialogKeepsWhatWasNotChanged()
+{
+    QFETCH(QString, family);
+    QFETCH(double, size);
+    QFETCH(bool, bold);
+    QFETCH(QString, name);
+    QFETCH(double, keptSize);
+    const FontChoice asked{"MS Sans Serif", 8.25, false, false, false, false};
+    // The dialog shows a family and size of its own for a font this system lacks.
+    QFontDialog dialog(toQFont(asked));
+    const QFont shown = dialog.currentFont();
+    QFont chosen = shown;
+    if (!family.isEmpty())
+        chosen.setFamily(family);
+    if (size > 0)
+        chosen.setPointSizeF(size);
+    chosen.setBold(bold);
+    const FontChoice kept = changedFont(asked, shown, chosen);
+    QCOMPARE(QString::fromStdString(kept.name), name);
+    QCOMPARE(kept.size, keptSize);
+    QCOMPARE(kept.bold, bold);
 }
 
 void TestPlatform::systemModalMessageStaysOnTop()

@@ -14,9 +14,13 @@
 #include "editor/scripting/assistant_popup.h"
 #include "editor/scripting/script_editor_window.h"
 #include "editor_session.h"
+#include "typing.h"
 
 using namespace qor;
+using qor::test::pressKey;
 using qor::test::Session;
+using qor::test::typeHere;
+using qor::test::typeInto;
 
 namespace {
 
@@ -84,13 +88,13 @@ private slots:
 void TestScriptEditor::enterFormatsTheLineJustTyped()
 {
     Opened o;
-    QTest::keyClicks(o.text, QStringLiteral("if a=b then msgbox fenetre.caption"));
-    QTest::keyClick(o.text, Qt::Key_Return);
+    QVERIFY(typeInto(o.text, QStringLiteral("if a=b then msgbox fenetre.caption")));
+    pressKey(Qt::Key_Return);
     QTRY_COMPARE(o.text->toPlainText(), QStringLiteral("if a = b then MsgBox fenetre.Caption\n"));
     QCOMPARE(o.script(), std::string("if a = b then MsgBox fenetre.Caption\r\n"));
     // The caret is back at the end, ready for the next line.
     QCOMPARE(o.text->textCursor().position(), o.text->toPlainText().size());
-    QTest::keyClicks(o.text, QStringLiteral("x=1"));
+    typeHere(QStringLiteral("x=1"));
     QCOMPARE(o.script(), std::string("if a = b then MsgBox fenetre.Caption\r\nx=1"));
     QVERIFY(!o.editor->formatTimer()->isActive());
     QVERIFY(o.s.dialogs.unexpected.isEmpty());
@@ -111,8 +115,8 @@ void TestScriptEditor::formatterStaysOffWhenUnticked()
     QFETCH(int, modifiers);
     Opened o;
     o.editor->autoFormat()->setChecked(ticked);
-    QTest::keyClicks(o.text, QStringLiteral("a=b"));
-    QTest::keyClick(o.text, Qt::Key_Return, Qt::KeyboardModifiers(modifiers));
+    QVERIFY(typeInto(o.text, QStringLiteral("a=b")));
+    pressKey(Qt::Key_Return, Qt::KeyboardModifiers(modifiers));
     QTest::qWait(50);
     QVERIFY(o.text->toPlainText().startsWith(QStringLiteral("a=b")));
 }
@@ -238,11 +242,11 @@ void TestScriptEditor::f5AndTheTestButtonStartATestRun()
 void TestScriptEditor::keysStayInTheText()
 {
     Opened o;
-    QTest::keyClicks(o.text, QStringLiteral("a"));
-    QTest::keyClick(o.text, Qt::Key_Tab);
-    QTest::keyClicks(o.text, QStringLiteral("b"));
+    QVERIFY(typeInto(o.text, QStringLiteral("a")));
+    pressKey(Qt::Key_Tab);
+    typeHere(QStringLiteral("b"));
     QCOMPARE(o.script(), std::string("a\tb"));
-    QTest::keyClick(o.text, Qt::Key_A, Qt::ControlModifier);
+    pressKey(Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(o.text->textCursor().selectedText(), QStringLiteral("a\tb"));
 
     // What the slot holds comes back whole once the editor has shown it

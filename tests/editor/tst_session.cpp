@@ -32,6 +32,7 @@
 #include <QPlainTextEdit>
 #include "model/product.h"
 #include "model/project_reader.h"
+#include "typing.h"
 
 using namespace qor;
 using qor::test::Session;
@@ -413,7 +414,7 @@ void TestSession::filePropertiesWindow()
     QCOMPARE(v.fileVersion, std::string("1.1"));
 
     w.field("Text1")->setText("Jeanne");
-    QTest::keyClicks(w.notesField(), QStringLiteral("a¤b"));
+    QVERIFY(test::typeInto(w.notesField(), QStringLiteral("a¤b")));
     QCOMPARE(w.notesField()->toPlainText(), QStringLiteral("a*b"));
     w.findChild<QPushButton*>("Command1")->click();
     QVERIFY(!w.isVisible());
@@ -621,8 +622,9 @@ void TestSession::scriptEditorWritesEveryChangeBack()
     // The text box speaks "\n"; the project keeps CR LF.
     QVERIFY(!editor.text()->toPlainText().contains(QChar('\r')));
 
-    editor.text()->selectAll();
-    QTest::keyClicks(editor.text(), QStringLiteral("a¤b"));
+    QVERIFY(test::clickInto(editor.text()) == editor.text());
+    test::pressKey(Qt::Key_A, Qt::ControlModifier);
+    test::typeHere(QStringLiteral("a¤b"));
     QCOMPARE(QString::fromStdString(s.core().project().timerScript), QStringLiteral("ab"));
     QCOMPARE(editor.text()->toPlainText(), QStringLiteral("ab"));
     QCOMPARE(s.dialogs.messages.size(), std::size_t(1));

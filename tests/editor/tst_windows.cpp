@@ -23,6 +23,8 @@
 #include "editor/ui/mouse_position_window.h"
 #include "editor/ui/splash_window.h"
 
+#include "typing.h"
+
 using namespace qor;
 
 namespace {
@@ -200,6 +202,25 @@ void TestWindows::propertiesPanelWidthAndFirstActivation()
     QVERIFY(p.scrollBar()->geometry().right() <= p.width());
     QVERIFY(p.scrollBar()->geometry().top() > p.elementSelector()->geometry().bottom());
 
+    // A tall panel scrolls just far enough to show its end.
+    PanelSet tall;
+    tall.add(PanelId::Button);
+    tall.add(PanelId::Code);
+    p.resize(199, 260);
+    p.showPanels(tall);
+    QVERIFY(p.scrollBar()->maximum() > 0);
+    p.scrollBar()->setValue(p.scrollBar()->maximum());
+    const QWidget* area = p.contentArea();
+    const int shown = area->parentWidget()->height();
+    QVERIFY(area->geometry().bottom() < shown);
+    QVERIFY(area->geometry().bottom() >= shown - twipsToPixels(500.0, kScreen.twipsPerPixelY));
+    // Another selection shows its panel from the top.
+    PanelSet window;
+    window.add(PanelId::Window);
+    p.showPanels(window);
+    QCOMPARE(p.scrollBar()->value(), 0);
+    QCOMPARE(area->y(), 0);
+
     QSignalSpy first(&p, &PropertiesPanel::firstActivated);
     QWidget other;
     p.show();
@@ -309,7 +330,7 @@ void TestWindows::fileInfoButtons()
     QCOMPARE(ok->text(), QStringLiteral("&Valider"));
     QCOMPARE(cancel->text(), QStringLiteral("&Annuler"));
     f.show();
-    QTest::keyClicks(f.field("Text1"), "Marie");
+    QVERIFY(test::typeInto(f.field("Text1"), "Marie"));
     ok->click();
     QCOMPARE(f.result(), int(QDialog::Accepted));
     QCOMPARE(f.values().authorName, std::string("Marie"));
@@ -324,16 +345,16 @@ void TestWindows::fileInfoNotesRule()
     f.show();
     QPlainTextEdit* notes = f.notesField();
     // Without a rule the notes are kept as typed.
-    QTest::keyClicks(notes, QStringLiteral("x¤"));
+    QVERIFY(test::typeInto(notes, QStringLiteral("x¤")));
     QCOMPARE(notes->toPlainText(), QStringLiteral("x¤"));
     notes->clear();
     f.setNotesRule(starForMark);
-    QTest::keyClicks(notes, QStringLiteral("a¤b"));
+    QVERIFY(test::typeInto(notes, QStringLiteral("a¤b")));
     QCOMPARE(notes->toPlainText(), QStringLiteral("a*b"));
     // The caret stays where the user types.
     QCOMPARE(notes->textCursor().position(), 3);
-    notes->moveCursor(QTextCursor::Start);
-    QTest::keyClicks(notes, QStringLiteral("¤"));
+    test::pressKey(Qt::Key_Home, Qt::ControlModifier);
+    test::typeHere(QStringLiteral("¤"));
     QCOMPARE(notes->toPlainText(), QStringLiteral("*a*b"));
     QCOMPARE(notes->textCursor().position(), 1);
 }

@@ -23,6 +23,8 @@
 #include "editor/ui/splash_window.h"
 #include "editor_session.h"
 
+#include "typing.h"
+
 using namespace qor;
 using qor::test::Session;
 
@@ -91,8 +93,9 @@ void click(QWidget* window, const char* name)
 void type(QWidget* window, const char* name, const QString& text)
 {
     auto* field = control<QLineEdit>(window, name);
-    field->selectAll();
-    QTest::keyClicks(field, text);
+    QCOMPARE(test::clickInto(field), field);
+    test::pressKey(Qt::Key_A, Qt::ControlModifier);
+    test::typeHere(text);
 }
 
 // A session with the wizard opened from its menu command.

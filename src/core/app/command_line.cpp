@@ -1,5 +1,8 @@
 #include "core/app/command_line.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace qor {
 
 CommandLineRequest readCommandLine(std::string_view rawArguments,
@@ -15,8 +18,13 @@ CommandLineRequest readCommandLine(std::string_view rawArguments,
         request.maintenance = true;
         return request;
     }
-    if (value.size() >= 4 && value.compare(value.size() - 4, 4, ".qor") == 0 && fileExists(value))
-        request.startupProject = value;
+    if (value.size() < 4 || value.compare(value.size() - 4, 4, ".qor") != 0 || !fileExists(value))
+        return request;
+    // Remembered as the startup project and among the recent files, the
+    // path must still lead to the file from another working folder.
+    std::error_code failed;
+    const std::filesystem::path full = std::filesystem::absolute(value, failed);
+    request.startupProject = failed ? value : full.lexically_normal().string();
     return request;
 }
 

@@ -19,7 +19,8 @@ struct CommandLineRequest {
 
 // The whole argument text is one value once every double quote is removed.
 // It is the maintenance word, or the path of an existing file ending in
-// ".qor" (that very case), or anything else, which is ignored.
+// ".qor" (that very case), or anything else, which is ignored. A project
+// path comes back whole, completed from the working folder.
 CommandLineRequest readCommandLine(std::string_view rawArguments,
                                    const std::function<bool(const std::string&)>& fileExists);
 

@@ -28,7 +28,10 @@ bool isShowableExtent(double twips, double twipsPerPixel)
 
 bool isShowableSize(TwipsSize size, const ScreenMetrics& screen)
 {
-    return isShowableExtent(size.width, screen.twipsPerPixelX) && isShowableExtent(size.height, screen.twipsPerPixelY);
+    if (!isShowableExtent(size.width, screen.twipsPerPixelX) || !isShowableExtent(size.height, screen.twipsPerPixelY))
+        return false;
+    const double pixels = std::ceil(size.width / screen.twipsPerPixelX) * std::ceil(size.height / screen.twipsPerPixelY);
+    return pixels * 4 <= kMaxSurfaceBytes;
 }
 
 std::optional<TwipsSize> sizeFromFields(std::string_view width, std::string_view height,

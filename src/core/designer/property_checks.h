@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "core/ports/screen.h"
-#include "core/ports/screen.h"
 
 namespace qor {
 
@@ -16,8 +15,13 @@ namespace qor {
 // show: sizes and positions beyond it are refused like non-numbers.
 inline constexpr double kMaxPixels = 32767;
 
-// True when a window or element of that size can be shown: above zero and
-// at most kMaxPixels on each axis.
+// The most memory one window's picture may take (32 bits a pixel), the
+// same limit the platform puts on reading one picture: a larger window could
+// not be drawn, and asking for it would exhaust the memory first.
+inline constexpr double kMaxSurfaceBytes = 256.0 * 1024 * 1024;
+
+// True when a window or element of that size can be shown: above zero, at
+// most kMaxPixels on each axis and its picture within kMaxSurfaceBytes.
 bool isShowableSize(TwipsSize size, const ScreenMetrics& screen);
 
 // A size typed into a pair of fields ("Taille :" of the window or of a text

@@ -65,6 +65,16 @@ FileDialogRequest saveRequest(const std::string& currentFolder)
     return {"Enregistrer", "Image *.bmp | *.bmp", currentFolder, ""};
 }
 
+std::string bmpSavePath(const std::string& typed)
+{
+    const std::size_t separator = typed.find_last_of("/\\");
+    const std::size_t name = separator == std::string::npos ? 0 : separator + 1;
+    const std::size_t dot = typed.rfind('.');
+    // A dot that starts the name (".image") is part of the name.
+    const bool hasExtension = dot != std::string::npos && dot > name;
+    return hasExtension ? typed : typed + ".bmp";
+}
+
 Message saveFailedMessage(int number, const std::string& description)
 {
     return {"Erreur n°" + std::to_string(number) + " (" + description +

@@ -70,6 +70,9 @@ Layout layout(int innerWidth, int innerHeight, int areaLeft, int areaTop, int ba
 // "Enregistrer": the save dialog, and the message when writing fails.
 FileDialogRequest saveRequest(const std::string& currentFolder);
 Message saveFailedMessage(int number, const std::string& description);
+// The file the picture is written to: the name as typed, with ".bmp" added
+// when its last part has no extension of its own.
+std::string bmpSavePath(const std::string& typed);
 // "Presse papier" done, or refused by the clipboard.
 Message clipboardCopiedMessage();
 Message clipboardRefusedMessage();

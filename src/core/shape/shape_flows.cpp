@@ -116,7 +116,8 @@ void ShapeFlows::load()
     if (refuseWhileDrawing(ShapeMessage::FinishBeforeLoad))
         return;
     // A cancelled dialog is the silent error: nothing happens.
-    const auto path = ports_.dialogs.openFile({"Charger une forme...", kShapeFilter, "", ""});
+    // Loading lists every file; only saving offers the shape filter.
+    const auto path = ports_.dialogs.openFile({"Charger une forme...", "", "", ""});
     if (!path || path->empty())
         return;
     loadFile(*path);

@@ -134,6 +134,10 @@ void EditorApplication::connectWorksheet()
     // The worksheet took its first size before it was connected: its caption
     // and the panel's size fields follow that size from the start.
     core_.designer().worksheet().resized(windows_.outerSize(sheet), false);
+    // The main window's title highlight ends when the pointer goes on over
+    // the worksheet's background.
+    QObject::connect(&sheet, &WorksheetWindow::pointerOverBackground, &sheet,
+                     [this] { core_.shell().mainWindow().resetTitles(); });
     QObject::connect(&sheet, &WorksheetWindow::keyCommand, &sheet, [this](int key) {
         switch (key) {
         case Qt::Key_Delete: core_.designer().deleteButton(); break;

@@ -54,7 +54,7 @@ void ButtonPanel::build()
     row += 2;
     auto* hover = new QHBoxLayout;
     hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
-    hover->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_bouton")));
+    hover->addWidget(makeSmallCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_bouton")));
     hover->addStretch();
     grid->addLayout(hover, row++, 0, 1, 3);
     grid->addWidget(makeCommand(this, QStringLiteral("Modifier la position"), QStringLiteral("Command_position")), row++,

@@ -87,6 +87,8 @@ QPushButton* makeSwatch(QWidget* parent, const QString& name)
     s->setFlat(true);
     s->setAutoFillBackground(true);
     s->setFixedSize(40, 18);
+    // A swatch shows the project's colour whatever the appearance.
+    s->setProperty("Tag", QStringLiteral("N_DESIGN"));
     return s;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <algorithm>
+#include <cmath>
 #include <QEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -45,7 +46,9 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     text_ = new TextPanel(content_);
     for (QWidget* p : {static_cast<QWidget*>(window_), static_cast<QWidget*>(button_), static_cast<QWidget*>(text_)})
         column->addWidget(p);
-    column->addStretch();
+    // No stretch below: the area is made exactly as tall as the panels ask
+    // for their width, and a stretch would take its share of that height
+    // from them.
     scroll_ = new QScrollBar(Qt::Vertical, this);
     named(scroll_, "VScroll1");
     scroll_->setMaximum(0);
@@ -93,6 +96,9 @@ void PropertiesPanel::showPanels(const PanelSet& panels)
     button_->setVisible(panels.has(PanelId::Button));
     button_->showSubPanels(panels.has(PanelId::Media), panels.has(PanelId::Code));
     text_->setVisible(panels.has(PanelId::Text));
+    // Another element's panel is read from its top.
+    const QSignalBlocker quiet(scroll_);
+    scroll_->setValue(0);
     layOut();
 }
 
@@ -113,7 +119,7 @@ void PropertiesPanel::resizeEvent(QResizeEvent* event)
 }
 
 // The bar runs from under the selector to 50 twips above the bottom; its
-// maximum is the content's height in steps of 500 twips.
+// maximum is what the area cannot show of the content, in steps of 500 twips.
 void PropertiesPanel::layOut()
 {
     const int margin = 4;
@@ -126,11 +132,15 @@ void PropertiesPanel::layOut()
     viewport_->setGeometry(0, contentTop, width() - barWidth, std::max(0, height() - contentTop));
     // Captions wrap in the narrow panel: the height follows the width.
     QLayout* column = content_->layout();
+    // Never below what the controls need, or the layout squeezes the
+    // commands and cuts their captions.
     const int contentHeight =
-        column->hasHeightForWidth() ? column->totalHeightForWidth(viewport_->width()) : content_->sizeHint().height();
+        std::max(column->hasHeightForWidth() ? column->totalHeightForWidth(viewport_->width()) : 0,
+                 content_->minimumSizeHint().height());
     content_->resize(viewport_->width(), contentHeight);
-    const double contentTwips = content_->height() * screen_.twipsPerPixelY;
-    scroll_->setMaximum(int(contentTwips / kScrollStep));
+    // The last step brings the content's end into view, no further.
+    const double hiddenTwips = std::max(0, content_->height() - viewport_->height()) * screen_.twipsPerPixelY;
+    scroll_->setMaximum(int(std::ceil(hiddenTwips / kScrollStep)));
     scrollTo(scroll_->value());
 }
 

@@ -75,7 +75,9 @@ void WindowPanel::build()
     every->addWidget(interval_);
     every->addWidget(new QLabel(QStringLiteral("ms"), timerGroup_));
     timerGrid->addLayout(every, 0, 0, 1, 2);
-    timerGrid->addWidget(makeCaption(timerGroup_, QStringLiteral("exécuter ce code VBS :")), 1, 0, 1, 2);
+    // One line that fits the frame: a caption that wraps would let the frame
+    // be laid out shorter than its commands need.
+    timerGrid->addWidget(new QLabel(QStringLiteral("exécuter ce code VBS :"), timerGroup_), 1, 0, 1, 2);
     timerGrid->addWidget(makeSmallCommand(timerGroup_, QStringLiteral("&Modif."), QStringLiteral("Command_minuteur")), 2,
                          1);
     grid->addWidget(timerGroup_, row++, 0, 1, 3);
@@ -86,7 +88,7 @@ void WindowPanel::build()
     global->addWidget(makeSmallCommand(this, QStringLiteral("[?]"), QStringLiteral("Command_aide_global")));
     auto* hover = rowAt(*grid, row++);
     hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
-    hover->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_fenetre")));
+    hover->addWidget(makeSmallCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_fenetre")));
     hover->addStretch();
     grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :")), row++, 0, 1, 3);
     startup_ = named(new QComboBox(this), "Combo_demarrage");

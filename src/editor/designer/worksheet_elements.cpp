@@ -137,14 +137,20 @@ void TextElement::paintEvent(QPaintEvent*)
     qDrawShadeRect(&painter, rect(), palette(), true, 1, 0);
     QRect inner = rect().adjusted(2, 2, -2, -2);
     if (scrollBar_) {
+        const int extent = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        const QRect place(inner.right() - extent + 1, inner.top(), extent, inner.height());
         QStyleOptionSlider bar;
         bar.initFrom(this);
         bar.orientation = Qt::Vertical;
-        bar.rect = QRect(inner.right() - style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 1, inner.top(),
-                         style()->pixelMetric(QStyle::PM_ScrollBarExtent), inner.height());
+        // Styles lay a scroll bar's parts out from its own corner, as if it
+        // were a widget of its own: drawn there, then moved into place.
+        bar.rect = QRect(QPoint(0, 0), place.size());
         bar.minimum = bar.maximum = bar.sliderPosition = bar.sliderValue = 0;
+        painter.save();
+        painter.translate(place.topLeft());
         style()->drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter, this);
-        inner.setRight(bar.rect.left() - 1);
+        painter.restore();
+        inner.setRight(place.left() - 1);
     }
     painter.setPen(palette().color(QPalette::Text));
     painter.setClipRect(inner);

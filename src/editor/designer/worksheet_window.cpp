@@ -342,6 +342,8 @@ void WorksheetWindow::mouseMoved(QMouseEvent* event)
     }
     const WorksheetTarget target = targetAt(pos);
     flows_->pointerMoved(target, twipsIn(target, pos), event->buttons() == Qt::RightButton);
+    if (target.kind == WorksheetTarget::Kind::Background)
+        emit pointerOverBackground();
 }
 
 void WorksheetWindow::mouseReleased(QMouseEvent* event)
@@ -356,9 +358,14 @@ void WorksheetWindow::mouseReleased(QMouseEvent* event)
         return;
     }
     const WorksheetTarget target = targetAt(pos);
-    if (target.kind == WorksheetTarget::Kind::Button)
+    if (target.kind == WorksheetTarget::Kind::Button) {
         flows_->releaseButton(anyModifier(event->modifiers()));
-    else if (target.kind == WorksheetTarget::Kind::Background)
+        return;
+    }
+    // A press let go off its button ends too, or no hover preview would
+    // show again until the next press.
+    flows_->releaseButton(false);
+    if (target.kind == WorksheetTarget::Kind::Background)
         flows_->releaseOverBackground();
 }
 

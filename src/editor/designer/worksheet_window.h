@@ -71,6 +71,8 @@ signals:
     void resized(bool byUser);
     // Delete, F5 or F1 pressed on the worksheet.
     void keyCommand(int key);
+    // The pointer moved over the background (no element under it).
+    void pointerOverBackground();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

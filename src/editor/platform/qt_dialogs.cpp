@@ -8,10 +8,22 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QPushButton>
+#include <QTimer>
 
 #include "editor/platform/colours.h"
 #include "editor/platform/file_filter.h"
 #include "editor/platform/qt_text.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#ifdef QOR_HAVE_XCB
+#include <QGuiApplication>
+#include <QWindow>
+#include <qguiapplication_platform.h>
+#include <xcb/xcb.h>
+#endif
 
 namespace qor {
 namespace {
@@ -58,6 +70,33 @@ QString folderOrCurrent(const std::string& folder)
     return folder.empty() ? QDir::currentPath() : toQt(folder);
 }
 
+// Qt names a window whose title is empty after the application on X11;
+// a message specified without a title must show none, so the title is
+// cleared on the window itself.
+void showWithoutTitle(QWidget& window)
+{
+#ifdef QOR_HAVE_XCB
+    auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11 || !window.windowHandle())
+        return;
+    xcb_connection_t* connection = x11->connection();
+    const auto atom = [connection](const char* name) {
+        const auto cookie = xcb_intern_atom(connection, 0, uint16_t(std::strlen(name)), name);
+        xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection, cookie, nullptr);
+        const xcb_atom_t found = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+        std::free(reply);
+        return found;
+    };
+    const auto id = xcb_window_t(window.winId());
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, id, atom("_NET_WM_NAME"), atom("UTF8_STRING"), 8, 0,
+                        "");
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, id, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, "");
+    xcb_flush(connection);
+#else
+    (void)window;
+#endif
+}
+
 }  // namespace
 
 std::unique_ptr<QMessageBox> buildMessageBox(const Message& message, QWidget* parent)
@@ -100,6 +139,12 @@ Answer answerOf(QMessageBox::StandardButton button)
 Answer QtDialogs::message(const Message& message)
 {
     auto box = buildMessageBox(message, dialogParent());
+    if (message.title.empty()) {
+        box->winId();
+        showWithoutTitle(*box);
+        // Once more when the box is up, after the window system took it.
+        QTimer::singleShot(0, box.get(), [b = box.get()] { showWithoutTitle(*b); });
+    }
     box->exec();
     // Closing the box with its title bar button counts as its escape button.
     const auto clicked = box->standardButton(box->clickedButton());
@@ -187,11 +232,12 @@ std::optional<Colour> QtDialogs::pickColour(Colour initial)
 
 std::optional<FontChoice> QtDialogs::pickFont(const FontChoice& initial)
 {
-    bool ok = false;
-    const QFont chosen = QFontDialog::getFont(&ok, toQFont(initial), dialogParent());
-    if (!ok)
+    QFontDialog dialog(toQFont(initial), dialogParent());
+    // What the dialog shows for the asked font before the user touches it.
+    const QFont shown = dialog.currentFont();
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return fromQFont(chosen);
+    return changedFont(initial, shown, dialog.selectedFont());
 }
 
 QFont toQFont(const FontChoice& font)
@@ -215,6 +261,18 @@ FontChoice fromQFont(const QFont& font)
     c.italic = font.italic();
     c.strikethrough = font.strikeOut();
     c.underline = font.underline();
+    return c;
+}
+
+FontChoice changedFont(const FontChoice& initial, const QFont& shown, const QFont& chosen)
+{
+    FontChoice c = fromQFont(chosen);
+    if (chosen.family().compare(shown.family(), Qt::CaseInsensitive) == 0 ||
+        chosen.family().compare(toQt(initial.name), Qt::CaseInsensitive) == 0)
+        c.name = initial.name;
+    const double size = chosen.pointSizeF();
+    if (std::abs(size - shown.pointSizeF()) < 0.01 || std::abs(size - initial.size) < 0.01)
+        c.size = initial.size;
     return c;
 }
 

@@ -42,5 +42,10 @@ void configureFileDialog(QFileDialog& dialog, const FileDialogRequest& request, 
 
 QFont toQFont(const FontChoice& font);
 FontChoice fromQFont(const QFont& font);
+// What the font dialog hands back: chosen, after it first showed the
+// initial font as shown. A family this system lacks shows as another one,
+// and a size as the dialog rounds it; confirming them unchanged keeps the
+// name and size the menu asked for, so only what the user changed differs.
+FontChoice changedFont(const FontChoice& initial, const QFont& shown, const QFont& chosen);
 
 }  // namespace qor

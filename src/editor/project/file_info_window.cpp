@@ -19,14 +19,18 @@ QLineEdit* lineField(const char* name, bool readOnly)
     auto* f = new QLineEdit;
     named(f, name);
     f->setReadOnly(readOnly);
-    if (readOnly) {
-        // Shown on the window's colour, and left out of the Tab order.
-        QPalette p = f->palette();
-        p.setColor(QPalette::Base, p.color(QPalette::Window));
-        f->setPalette(p);
-        f->setFocusPolicy(Qt::ClickFocus);
-    }
+    if (readOnly)
+        f->setFocusPolicy(Qt::ClickFocus);  // out of the Tab order
     return f;
+}
+
+// What cannot be edited is shown on the window's own colour, whatever
+// colour the appearance gave the fields.
+void showOnWindowColour(QLineEdit& field, const QWidget& window)
+{
+    QPalette p = field.palette();
+    p.setColor(QPalette::Base, window.palette().color(QPalette::Window));
+    field.setPalette(p);
 }
 
 }  // namespace
@@ -78,6 +82,8 @@ FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(pa
     connect(notes_, &QPlainTextEdit::textChanged, this, &FileInfoWindow::applyNotesRule);
 
     runLoadHooks(*this, hooks);
+    for (QLineEdit* f : {editor_, version_, fileVersion_})
+        showOnWindowColour(*f, *this);
 }
 
 void FileInfoWindow::fill(const FileInfoView& view)

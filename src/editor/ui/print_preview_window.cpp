@@ -162,7 +162,7 @@ void PrintPreviewWindow::save()
     const auto path = dialogs_.saveFile(pp::saveRequest(fromQt(QDir::currentPath())));
     if (!path || path->empty())
         return;
-    if (const auto failure = saveBmp(capture_, toQt(*path)))
+    if (const auto failure = saveBmp(capture_, toQt(pp::bmpSavePath(*path))))
         dialogs_.message(pp::saveFailedMessage(err::PathFileAccess, fromQt(*failure)));
 }
 

@@ -1,6 +1,8 @@
 #include "editor/ui/widget_control_node.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -12,6 +14,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTextEdit>
 
 #include "editor/platform/colours.h"
@@ -32,6 +35,26 @@ QWidget* owningWindow(QObject* o)
             return w;
     }
     return nullptr;
+}
+
+// The parts a toolkit builds inside a control (a text area's viewport and
+// scroll bars, a combo box's line edit, a spin box's arrows) are not the
+// window's controls: colouring them hides the control's own look, and
+// changing their focus reaches the control itself through its focus proxy.
+bool isToolkitPart(QObject* o, QWidget* window)
+{
+    if (o->objectName().startsWith(QLatin1String("qt_")))
+        return true;
+    for (QObject* p = o->parent(); p && p != window; p = p->parent()) {
+        if (qobject_cast<QComboBox*>(p) || qobject_cast<QAbstractSpinBox*>(p) || qobject_cast<QTextEdit*>(p) ||
+            qobject_cast<QPlainTextEdit*>(p) || qobject_cast<QAbstractItemView*>(p))
+            return true;
+        // A scroll area's bars sit in containers of its own; what it scrolls
+        // (a panel and its controls) belongs to the window.
+        if (qobject_cast<QScrollBar*>(o) && p->objectName().startsWith(QLatin1String("qt_scrollarea_")))
+            return true;
+    }
+    return false;
 }
 
 // A submenu's command carries its menu's name; the menu stands for both.
@@ -77,7 +100,7 @@ std::vector<QObject*> WidgetControlNode::windowControls() const
         return found;
     for (QObject* o : window_->findChildren<QObject*>()) {
         if ((qobject_cast<QWidget*>(o) || qobject_cast<QAction*>(o)) && owningWindow(o) == window_.data() &&
-            !isSubmenuCommand(o))
+            !isSubmenuCommand(o) && !isToolkitPart(o, window_.data()))
             found.push_back(o);
     }
     return found;
@@ -190,9 +213,13 @@ bool WidgetControlNode::writeText(ControlProperty property, const QString& text)
         return true;
     }
     if (property == ControlProperty::FontName && w) {
-        QFont f = w->font();
-        f.setFamily(text);
-        w->setFont(f);
+        // Setting a font, even the same one, makes the widget and its
+        // children work their fonts out again: only a change is made.
+        if (w->font().family() != text) {
+            QFont f = w->font();
+            f.setFamily(text);
+            w->setFont(f);
+        }
         return true;
     }
     return false;
@@ -212,10 +239,16 @@ bool WidgetControlNode::writeColour(ControlProperty property, std::int64_t colou
             p.setColor(role, c);
         w->setAutoFillBackground(true);
     } else {
-        for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-            p.setColor(role, c);
+        // The disabled state keeps the style's greyed text, so a command
+        // that cannot be used looks it under every appearance.
+        for (auto group : {QPalette::Active, QPalette::Inactive})
+            for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                p.setColor(group, role, c);
     }
-    w->setPalette(p);
+    // The same colours again (the default appearance on the style's own
+    // palette): nothing to repaint or hand down to the children.
+    if (p != w->palette())
+        w->setPalette(p);
     return true;
 }
 
@@ -243,6 +276,8 @@ bool WidgetControlNode::write(ControlProperty property, const PropertyValue& val
         return w || a;
     case ControlProperty::TabStop:
         if (!w || w == window_.data()) return false;
+        // Only the Tab key's part of the policy: a click still gives the
+        // focus, and the caret, to a field.
         w->setFocusPolicy(on ? Qt::FocusPolicy(w->focusPolicy() | Qt::TabFocus)
                              : Qt::FocusPolicy(w->focusPolicy() & ~Qt::TabFocus));
         return true;

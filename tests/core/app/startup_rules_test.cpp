@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 #include "core/app/command_line.h"
@@ -34,6 +35,11 @@ TEST(CommandLine, QuotesGoAndOnlyExistingDotQorPathsCount)
         EXPECT_EQ(r.maintenance, c.maintenance) << c.raw;
         EXPECT_EQ(r.startupProject, c.project) << c.raw;
     }
+    // A path given from the working folder is remembered whole.
+    auto here = [](const std::string& p) { return p == "menu.qor" || p == "./sous/../menu.qor"; };
+    const std::string full = (std::filesystem::current_path() / "menu.qor").string();
+    EXPECT_EQ(readCommandLine("menu.qor", here).startupProject, full);
+    EXPECT_EQ(readCommandLine("\"./sous/../menu.qor\"", here).startupProject, full);
     const char* argv[] = {"qor", "/home/u/mon", "menu.qor"};
     EXPECT_EQ(joinArguments(3, argv), "/home/u/mon menu.qor");
     EXPECT_EQ(joinArguments(1, argv), "");

@@ -94,6 +94,8 @@ TEST(PropertyChecks, TypedSizesAreNumbersTheWindowCanTake)
         {"1e400", "7200", false}, {"-0", "7200", false}, {"0", "7200", false}, {"-15", "7200", false},
         {"99999999999", "7200", false}, {"12,5", "7200", false}, {"491505", "7200", true},
         {"491520", "7200", false}, {"9000", "", false},
+        // Each side showable, but the picture would take more than 256 MiB.
+        {"491505", "491505", false}, {"122880", "122880", true}, {"122880", "122895", false},
     };
     for (const auto& c : cases)
         EXPECT_EQ(sizeFromFields(c.w, c.h, kScreen).has_value(), c.accepted) << c.w << " x " << c.h;

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "core/picture/print_preview_rules.h"
 
 namespace qor {
@@ -69,6 +71,18 @@ TEST(PrintPreview, AWindowTooSmallSkipsOnlyThePartsThatDoNotFit)
     EXPECT_EQ(l.corner, (PixelRect{274, 0, 16, 17}));
     const pp::Layout none = pp::layout(5, 5, 10, 40, 16, 17);
     EXPECT_FALSE(none.area);
+}
+
+TEST(PrintPreview, SavedPictureGetsBmpWhenTheNameHasNoExtension)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"/home/u/menu", "/home/u/menu.bmp"},   {"/home/u/menu.bmp", "/home/u/menu.bmp"},
+        {"/home/u/menu.png", "/home/u/menu.png"}, {"/home/u.v2/menu", "/home/u.v2/menu.bmp"},
+        {"C:\\img.d\\menu", "C:\\img.d\\menu.bmp"}, {"/home/u/.menu", "/home/u/.menu.bmp"},
+        {"menu", "menu.bmp"},
+    };
+    for (const auto& [typed, written] : cases)
+        EXPECT_EQ(pp::bmpSavePath(typed), written) << typed;
 }
 
 TEST(PrintPreview, SaveFailureNamesTheHandlerAndTheWindow)

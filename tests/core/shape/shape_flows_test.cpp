@@ -204,7 +204,7 @@ TEST(ShapeFlows, LoadingReplacesTheWorkingListAndClosesIt)
     f.loadFile(f.dir.write("tri.ffl", kTriangleFile));
     EXPECT_TRUE(f.dialogs.messages.empty());
     EXPECT_EQ(f.dialogs.openRequests.back(),
-              (FileDialogRequest{"Charger une forme...", "Fichier Forme QOR *.ffl | *.ffl", "", ""}));
+              (FileDialogRequest{"Charger une forme...", "", "", ""}));
     EXPECT_EQ(f.flows.editor().points().size(), 4u);
     EXPECT_EQ(f.flows.editor().newEdges().size(), 3u);
     EXPECT_EQ(f.flows.editor().state(), ShapeState::Closed);
