@@ -296,7 +296,7 @@ TEST_F(PlayerTest, ScriptsSeeThePlaceholdersExpanded)
     p.startupAction = "VBS:MsgBox \"[LECT]:\\ | [chemin] | [Joindre]\"";
     run(p, false);
     ASSERT_EQ(view.messages.size(), 1u);
-    EXPECT_EQ(view.messages[0].text, "D:\\ | /cd/qor/ | /cd/");
+    EXPECT_EQ(view.messages[0].text, "/cd/ | /cd/qor/ | /cd/");
     EXPECT_EQ(view.messages[0].title, "Démo");
 }
 
