@@ -215,6 +215,12 @@ void Player::windowMoved(int leftPixels, int topPixels)
     scene_.window.top = topPixels * screen_.twipsPerPixelY;
 }
 
+void Player::windowStateChanged(int state)
+{
+    if (state >= 0 && state <= 2)
+        scene_.window.windowState = state;
+}
+
 std::vector<std::string> Player::contextMenuEntries() const
 {
     if (!scene_.window.contextMenu)

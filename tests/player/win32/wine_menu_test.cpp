@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
+#include <iostream>
 
 #include "menu_maker.h"
 #include "screen.h"
@@ -27,14 +29,15 @@ MenuButton& addButton(MenuProject& p, float left, float top, const std::string& 
 }
 
 // 400 x 300 pixels on a 96-dpi screen, red, with a green and a blue button
-// (yellow under the pointer) and the second one closing the menu.
-MenuProject sampleMenu()
+// (yellow under the pointer) and the second one closing the menu; the first
+// one's script is firstAction.
+MenuProject sampleMenu(const std::string& firstAction = "Fenetre.Caption = \"clic\"")
 {
     MenuProject p;
     p.width = 6000;
     p.height = 4500;
     p.backgroundColor = 0x000000FF;
-    addButton(p, 600, 600, "vert", button_kind::code).action = "Fenetre.Caption = \"clic\"";
+    addButton(p, 600, 600, "vert", button_kind::code).action = firstAction;
     addButton(p, 3000, 1500, "bleu", button_kind::quit);
     return p;
 }
@@ -88,6 +91,121 @@ TEST(WineMenu, WindowHasItsSizeBackgroundAndButtons)
                       {"border", 399, 150, 0x000000}});
     moveTo(w->x + 65, w->y + 55);
     expectPixels(*w, {{"button 1 under the pointer", 64, 54, kYellow}, {"button 2", 229, 119, kBlue}});
+}
+
+// The screen density wine gives the programs it starts from now on.
+void setDensity(int dpi)
+{
+    const std::string command = "wine reg add \"HKCU\\Control Panel\\Desktop\" /v LogPixels /t REG_DWORD /d " +
+                                std::to_string(dpi) + " /f >/dev/null 2>&1";
+    // A program just ended may still hold the registry a moment.
+    int status = -1;
+    for (int attempt = 0; attempt < 3 && status != 0; ++attempt)
+        status = std::system(command.c_str());
+    EXPECT_EQ(status, 0) << command;
+}
+
+// How far apart two 0xRRGGBB colours are.
+int distance(std::uint32_t a, std::uint32_t b)
+{
+    int d = 0;
+    for (int shift : {0, 8, 16})
+        d += std::abs(int((a >> shift) & 0xFF) - int((b >> shift) & 0xFF));
+    return d;
+}
+
+// Where a button's colour runs along the row y (window pixels) over the red
+// background: its first and last column, a pixel counting when it is nearer
+// the button's colour than the background's (the edges of a scaled picture
+// are blended).
+std::pair<int, int> runOf(const Shot& shot, const WindowBox& w, int y, std::uint32_t colour)
+{
+    int first = -1;
+    int last = -1;
+    for (int x = 1; x + 1 < w.width; ++x)
+        if (const std::uint32_t c = shot.at(w.x + x, w.y + y); distance(c, colour) < distance(c, kRed)) {
+            first = first < 0 ? x : first;
+            last = x;
+        }
+    return {first, last};
+}
+
+// The whole window scales with the screen: at each density every button's
+// picture covers the part of the window it was designed to, within 1 %, and
+// a click at the scaled place of the quit button reaches it.
+TEST(WineMenu, TheLayoutHoldsAtEveryDensity)
+{
+    struct Button {
+        const char* name;
+        int left, top, width, height;   // on the 400 x 300 design
+        std::uint32_t colour;
+    };
+    const Button buttons[] = {{"vert", 40, 40, 50, 30, kGreen}, {"bleu", 200, 100, 60, 40, kBlue}};
+    std::cout << "dpi  button  designed  measured (fraction of the window's width)\n";
+    struct Restore {
+        ~Restore() { setDensity(96); }
+    } restore;
+    for (const int dpi : {96, 120, 144, 192}) {
+        setDensity(dpi);
+        moveTo(0, 0);   // no button under the pointer
+        TempDir cd;
+        WineProgram player(makeMenu(cd.folder(), sampleMenu(), "QOR densite", sampleFiles()));
+        const std::optional<WindowBox> w = waitForWindow("QOR densite", kStartMs);
+        ASSERT_TRUE(w) << dpi;
+        const double f = dpi / 96.0;
+        EXPECT_NEAR(w->width, 400 * f, 1) << dpi;
+        EXPECT_NEAR(w->height, 300 * f, 1) << dpi;
+        const Button& last = buttons[1];
+        const int y = int((last.top + last.height / 2) * f);
+        const std::optional<Shot> shot = screenShotWhen(w->x + int((last.left + 2) * f), w->y + y, last.colour, kPaintMs);
+        ASSERT_TRUE(shot) << dpi;
+        for (const Button& b : buttons) {
+            const auto [first, end] = runOf(*shot, *w, int((b.top + b.height / 2) * f), b.colour);
+            const double designed = b.width / 400.0;
+            const double measured = (end - first + 1) / double(w->width);
+            std::cout << dpi << "  " << b.name << "  " << designed << "  " << measured << "\n";
+            EXPECT_NEAR(measured, designed, designed * 0.01) << dpi << " " << b.name;
+            EXPECT_NEAR(first / double(w->width), b.left / 400.0, 0.01 * b.left / 400.0) << dpi << " " << b.name;
+        }
+        clickAt(w->x + int((last.left + last.width / 2) * f), w->y + y);
+        EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << dpi << ": the quit button was not reached";
+    }
+}
+
+// A copy of the CD in a folder whose name has blanks, an accent, "#" and
+// "&": a button loads a picture and opens a sub-menu through "[CHEMIN]".
+TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
+{
+    TempDir cd;
+    const std::string folder = cd.folder() + "/Mon CD #2 & \xC3\xA9t\xC3\xA9";
+    const MenuProject p = sampleMenu("Set image = LoadPicture(\"[CHEMIN]bleu_n.bmp\")\r\n"
+                                     "Set exe_f = CreateObject(\"WScript.Shell\")\r\n"
+                                     "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
+    WineProgram player(makeMenu(folder, p, "QOR dossier", sampleFiles()));
+    makeMenu(folder, sampleMenu(), "QOR sous menu", sampleFiles(), "Sous Menu.exe");
+    const std::optional<WindowBox> w = waitForWindow("QOR dossier", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
+    clickAt(w->x + 64, w->y + 54);
+    const std::optional<WindowBox> sub = waitForWindow("QOR sous menu", kStartMs);
+    EXPECT_FALSE(waitForWindow("Erreur !", 1000)) << "the button's script failed";
+    ASSERT_TRUE(sub) << "the sub-menu never showed";
+    clickAt(sub->x + 229, sub->y + 119);   // its quit button
+
+}
+
+TEST(WineMenu, ASecondCopyOfTheSameMenuLeavesTheFirstAlone)
+{
+    TempDir cd;
+    const std::string exe = makeMenu(cd.folder(), sampleMenu(), "QOR une fois", sampleFiles());
+    WineProgram first(exe);
+    const std::optional<WindowBox> w = waitForWindow("QOR une fois", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    WineProgram second(exe);
+    EXPECT_EQ(second.waitExit(kStartMs), std::optional<int>(0)) << "the second copy stayed";
+    EXPECT_EQ(first.waitExit(500), std::nullopt) << "the first copy ended";
+    clickAt(w->x + 229, w->y + 119);
+    EXPECT_EQ(first.waitExit(10000), std::optional<int>(0)) << "the first copy no longer answers";
 }
 
 TEST(WineMenu, OutlineCutsTheWindow)
