@@ -172,12 +172,12 @@ TEST(WineMenu, TheLayoutHoldsAtEveryDensity)
     }
 }
 
-// A copy of the CD in a folder whose name has blanks, an accent, "#" and
-// "&": a button loads a picture and opens a sub-menu through "[CHEMIN]".
-TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
+// A button loads a picture and opens a sub-menu through "[CHEMIN]", from a
+// copy of the CD in cd/name.
+void showSubMenuFrom(const std::string& name)
 {
     TempDir cd;
-    const std::string folder = cd.folder() + "/Mon CD #2 & \xC3\xA9t\xC3\xA9";
+    const std::string folder = cd.folder() + name;
     const MenuProject p = sampleMenu("Set image = LoadPicture(\"[CHEMIN]bleu_n.bmp\")\r\n"
                                      "Set exe_f = CreateObject(\"WScript.Shell\")\r\n"
                                      "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
@@ -187,11 +187,26 @@ TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
     ASSERT_TRUE(w) << "the menu window never showed";
     expectPixels(*w, {{"button 1", 64, 54, kGreen}});
     clickAt(w->x + 64, w->y + 54);
+    moveTo(0, 0);   // off the sub-menu's buttons, which open over these
     const std::optional<WindowBox> sub = waitForWindow("QOR sous menu", kStartMs);
     EXPECT_FALSE(waitForWindow("Erreur !", 1000)) << "the button's script failed";
     ASSERT_TRUE(sub) << "the sub-menu never showed";
+    expectPixels(*sub, {{"the sub-menu's button 1", 64, 54, kGreen}});
     clickAt(sub->x + 229, sub->y + 119);   // its quit button
+}
 
+// A copy of the CD in a folder whose name has blanks, an accent, "#" and
+// "&", then deep past 260 characters: a button loads a picture and opens a
+// sub-menu through "[CHEMIN]".
+TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
+{
+    std::string deep = "/Mon CD #2 & \xC3\xA9t\xC3\xA9";
+    for (int level = 0; level < 5; ++level)
+        deep += "/un dossier aux noms longs, tr\xC3\xA8s longs, num\xC3\xA9ro " + std::to_string(level);
+    for (const std::string& name : {std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9"), deep}) {
+        SCOPED_TRACE(name);
+        showSubMenuFrom(name);
+    }
 }
 
 TEST(WineMenu, ASecondCopyOfTheSameMenuLeavesTheFirstAlone)
