@@ -172,6 +172,35 @@ TEST(WineMenu, TheLayoutHoldsAtEveryDensity)
     }
 }
 
+// A menu larger than the screen (1100 x 800 on 1024 x 768) is reduced as a
+// whole: all of it on the screen, its quit button in the bottom corner
+// reachable where the reduction put it.
+TEST(WineMenu, AMenuLargerThanTheScreenIsReducedAsAWhole)
+{
+    MenuProject p;
+    p.width = 1100 * 15;
+    p.height = 800 * 15;
+    p.backgroundColor = 0x000000FF;
+    addButton(p, 1000 * 15, 700 * 15, "bleu", button_kind::quit);
+    TempDir cd;
+    moveTo(0, 0);
+    WineProgram player(makeMenu(cd.folder(), p, "QOR grand", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR grand", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    const double s = std::min(1024 / 1100.0, 768 / 800.0);
+    EXPECT_NEAR(w->width, 1100 * s, 1);
+    EXPECT_NEAR(w->height, 800 * s, 1);
+    EXPECT_GE(w->x, 0);
+    EXPECT_GE(w->y, 0);
+    EXPECT_LE(w->x + w->width, 1024);
+    EXPECT_LE(w->y + w->height, 768);
+    const int x = int(1030 * s);
+    const int y = int(720 * s);
+    expectPixels(*w, {{"the quit button", x, y, kBlue}});
+    clickAt(w->x + x, w->y + y);
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "the quit button was not reached";
+}
+
 // A button loads a picture and opens a sub-menu through "[CHEMIN]", from a
 // copy of the CD in cd/name.
 void showSubMenuFrom(const std::string& name)
