@@ -66,6 +66,9 @@ CompilePlan PlanBuilder::build()
     copyRuntimeFile(program_files::installer);
     show("Copie d'aurorun.exe...");
     copy(program_ + std::string(program_files::player), plan_.partialPlayer);
+    // Explorer and the taskbar show the CD's own icon for its program.
+    if (!isDefaultIconMarker(project_.icon))
+        add({.kind = CompileAction::Kind::SetIcon, .source = project_.resolve(project_.icon), .target = plan_.partialPlayer});
     show(kDone);
     buttonImages();
     sounds();
