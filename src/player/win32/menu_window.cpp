@@ -458,7 +458,7 @@ LRESULT MenuWindow::handle(UINT message, WPARAM w, LPARAM l)
         break;
     case MM_MCINOTIFY:
         if (w == MCI_NOTIFY_SUCCESSFUL)
-            media_.musicEnded();
+            media_.ended(UINT(l));
         return 0;
     case WM_CLOSE:
         // The system's close goes through the player, which stops the media

@@ -252,6 +252,33 @@ TEST(WineMenu, ASecondCopyOfTheSameMenuLeavesTheFirstAlone)
     EXPECT_EQ(first.waitExit(10000), std::optional<int>(0)) << "the first copy no longer answers";
 }
 
+// A video plays in a window centred over the menu, which closes at its end.
+TEST(WineMenu, AVideoPlaysOverTheMenuAndItsWindowCloses)
+{
+    std::map<std::string, std::string> files = sampleFiles();
+    // White: its three bytes alike, it reads the same whatever order wine's
+    // video window takes them in.
+    constexpr std::uint32_t kWhite = 0xFFFFFF;
+    files["film.avi"] = solidVideo(64, 48, 20, kWhite);
+    TempDir cd;
+    moveTo(0, 0);
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Action.Tag = \"[CHEMIN]film.avi\" : Action.Text = \"JouerVideo\""),
+                                "QOR video", files));
+    const std::optional<WindowBox> w = waitForWindow("QOR video", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
+    clickAt(w->x + 64, w->y + 54);
+    moveTo(0, 0);
+    const int cx = w->x + w->width / 2;
+    const int cy = w->y + w->height / 2;
+    const std::optional<Shot> playing = screenShotWhen(cx, cy, kWhite, kPaintMs);
+    ASSERT_TRUE(playing);
+    EXPECT_EQ(playing->at(cx, cy), kWhite) << "no video over the menu's centre";
+    const std::optional<Shot> after = screenShotWhen(cx, cy, kRed, 10000);
+    ASSERT_TRUE(after);
+    EXPECT_EQ(after->at(cx, cy), kRed) << "the video's window stayed after its end";
+}
+
 TEST(WineMenu, OutlineCutsTheWindow)
 {
     MenuProject p = sampleMenu();
