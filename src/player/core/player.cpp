@@ -275,12 +275,17 @@ MediaKind mediaKindOf(std::string_view path)
     return MediaKind::Other;
 }
 
-// A media name of a "vidéo" button or of the startup action, from the CD root.
+// A media name of a "vidéo" button or of the startup action, from the CD
+// root. A file missing from the CD is said, by the name the author wrote.
 void Player::playMedia(std::string_view name)
 {
     const std::string path = cdFile(name);
     if (path.empty())
         return;
+    if (!system_.fileExists(path)) {
+        view_.messageBox({"Fichier introuvable : " + std::string(name), std::string(kScriptErrorTitle), 16});
+        return;
+    }
     switch (mediaKindOf(path)) {
     case MediaKind::Video:
         media_.playVideo(path);

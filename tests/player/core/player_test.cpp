@@ -20,12 +20,17 @@ TEST_F(PlayerTest, StartShowsTheWindowThenMusicThenStartupThenTimer)
     EXPECT_EQ(log, expected);
 }
 
+// As a "vidéo" button does; a file missing from the CD is said by the name
+// the author wrote.
 TEST_F(PlayerTest, TheStartupActionPlaysAMediaNameFromTheCdRoot)
 {
+    for (const char* file : {"/cd/videos/intro.avi", "/cd/son.mp3", "/cd/doc/lisez.pdf"})
+        system.files[file] = "x";
     const std::pair<std::string, std::string> cases[] = {
         {"videos\\intro.avi", "video /cd/videos/intro.avi"},
         {"son.mp3", "sound /cd/son.mp3"},
         {"[LECT]:\\doc\\lisez.pdf", "open /cd/doc/lisez.pdf"},
+        {"[LECT]:\\films\\absent.avi", "msgbox Fichier introuvable : [LECT]:\\films\\absent.avi"},
     };
     for (const auto& [action, expected] : cases) {
         MenuProject p;
@@ -57,6 +62,7 @@ TEST_F(PlayerTest, AClickPressesThenOnReleasePlaysTheSoundThenActsByKind)
     p.button(1).action = "MsgBox \"code\"";
     p.button(2).kind = std::string(button_kind::video);
     p.button(2).action = "films\\a.mpg";
+    system.files["/cd/films/a.mpg"] = "x";
     p.button(3).kind = std::string(button_kind::quit);
     run(p);
     player->pointerEntersButton(0);
