@@ -278,12 +278,18 @@ HWND MenuWindow::owner() const
 
 int MenuWindow::messageBox(const MessageRequest& request)
 {
-    return showMessageBox(owner(), request);
+    ++boxesOpen_;
+    const int answer = showMessageBox(owner(), request);
+    --boxesOpen_;
+    return answer;
 }
 
 std::optional<std::string> MenuWindow::inputBox(const script::InputBoxRequest& request)
 {
-    return showInputBox(owner(), request);
+    ++boxesOpen_;
+    std::optional<std::string> answer = showInputBox(owner(), request);
+    --boxesOpen_;
+    return answer;
 }
 
 RECT MenuWindow::buttonRect(std::size_t index) const
@@ -482,6 +488,11 @@ bool MenuWindow::handleMouse(UINT message, POINT at)
     case WM_LBUTTONUP: mouseUp(at); return true;
     case WM_MOUSELEAVE:
         tracking_ = false;
+        // A box a script opened (a hover message, say) took the pointer but
+        // the user did not leave the button: closed with Enter, the next
+        // click on it is a click, not a new entry.
+        if (boxesOpen_ > 0)
+            return true;
         if (!pressed_)
             hover(std::nullopt);
         if (player_)

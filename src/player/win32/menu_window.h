@@ -81,6 +81,7 @@ private:
     std::optional<std::size_t> hovered_;
     std::optional<std::size_t> pressed_;
     bool tracking_ = false;
+    int boxesOpen_ = 0;          // message and input boxes open over the window
     HBITMAP background_ = nullptr;   // colour, picture and border at the current size
     SIZE backgroundSize_{};
     SIZE regionSize_{};

@@ -112,6 +112,13 @@ void moveTo(int x, int y)
     pause(300);
 }
 
+void pressKey(const WindowBox& window, const std::string& key)
+{
+    output("xdotool windowfocus --sync " + window.id + " 2>/dev/null");
+    output("xdotool key " + key);
+    pause(300);
+}
+
 void pressOk(const WindowBox& box)
 {
     // Without a window manager the first click may only bring the box to

@@ -2,6 +2,7 @@
 // in a virtual screen, looked at through screenshots and used with the pointer.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <iostream>
@@ -30,14 +31,16 @@ MenuButton& addButton(MenuProject& p, float left, float top, const std::string& 
 
 // 400 x 300 pixels on a 96-dpi screen, red, with a green and a blue button
 // (yellow under the pointer) and the second one closing the menu; the first
-// one's script is firstAction.
-MenuProject sampleMenu(const std::string& firstAction = "Fenetre.Caption = \"clic\"")
+// one's script is firstAction, its hover script firstHover.
+MenuProject sampleMenu(const std::string& firstAction = "Fenetre.Caption = \"clic\"", const std::string& firstHover = "")
 {
     MenuProject p;
     p.width = 6000;
     p.height = 4500;
     p.backgroundColor = 0x000000FF;
-    addButton(p, 600, 600, "vert", button_kind::code).action = firstAction;
+    MenuButton& first = addButton(p, 600, 600, "vert", button_kind::code);
+    first.action = firstAction;
+    first.hoverScript = firstHover;
     addButton(p, 3000, 1500, "bleu", button_kind::quit);
     return p;
 }
@@ -277,6 +280,30 @@ TEST(WineMenu, AVideoPlaysOverTheMenuAndItsWindowCloses)
     const std::optional<Shot> after = screenShotWhen(cx, cy, kRed, 10000);
     ASSERT_TRUE(after);
     EXPECT_EQ(after->at(cx, cy), kRed) << "the video's window stayed after its end";
+}
+
+// A hover script's message closed with Enter: the next click on that button
+// is a whole click, its script runs.
+TEST(WineMenu, TheClickAfterAHoverMessageClosedWithEnterRunsItsScript)
+{
+    TempDir cd;
+    moveTo(0, 0);
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = \"clic\"", "MsgBox \"survol\", 0, \"QOR survol\""),
+                                "QOR survol menu", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR survol menu", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
+    moveTo(w->x + 64, w->y + 54);
+    const std::optional<WindowBox> box = waitForWindow("QOR survol", kStartMs);
+    ASSERT_TRUE(box) << "the hover message never showed";
+    pressKey(*box, "Return");
+    bool closed = false;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (!closed && std::chrono::steady_clock::now() < end)
+        closed = !waitForWindow("QOR survol", 100);
+    ASSERT_TRUE(closed) << "Enter did not close the hover message";
+    clickAt(w->x + 64, w->y + 54);
+    EXPECT_TRUE(waitForWindow("clic", 5000)) << "the click's script did not run";
 }
 
 TEST(WineMenu, OutlineCutsTheWindow)
