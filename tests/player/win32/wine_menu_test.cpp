@@ -96,6 +96,17 @@ TEST(WineMenu, WindowHasItsSizeBackgroundAndButtons)
     expectPixels(*w, {{"button 1 under the pointer", 64, 54, kYellow}, {"button 2", 229, 119, kBlue}});
 }
 
+// The window of that title once it has painted its first button, the
+// pointer kept off it.
+std::optional<WindowBox> paintedWindow(const std::string& title)
+{
+    moveTo(0, 0);
+    const std::optional<WindowBox> w = waitForWindow(title, kStartMs);
+    if (w)
+        expectPixels(*w, {{"button 1", 64, 54, kGreen}});
+    return w;
+}
+
 // The screen density wine gives the programs it starts from now on.
 void setDensity(int dpi)
 {
@@ -215,9 +226,8 @@ void showSubMenuFrom(const std::string& name)
                                      "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
     WineProgram player(makeMenu(folder, p, "QOR dossier", sampleFiles()));
     makeMenu(folder, sampleMenu(), "QOR sous menu", sampleFiles(), "Sous Menu.exe");
-    const std::optional<WindowBox> w = waitForWindow("QOR dossier", kStartMs);
+    const std::optional<WindowBox> w = paintedWindow("QOR dossier");
     ASSERT_TRUE(w) << "the menu window never showed";
-    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
     clickAt(w->x + 64, w->y + 54);
     moveTo(0, 0);   // off the sub-menu's buttons, which open over these
     const std::optional<WindowBox> sub = waitForWindow("QOR sous menu", kStartMs);
@@ -264,12 +274,10 @@ TEST(WineMenu, AVideoPlaysOverTheMenuAndItsWindowCloses)
     constexpr std::uint32_t kWhite = 0xFFFFFF;
     files["film.avi"] = solidVideo(64, 48, 20, kWhite);
     TempDir cd;
-    moveTo(0, 0);
     WineProgram player(makeMenu(cd.folder(), sampleMenu("Action.Tag = \"[CHEMIN]film.avi\" : Action.Text = \"JouerVideo\""),
                                 "QOR video", files));
-    const std::optional<WindowBox> w = waitForWindow("QOR video", kStartMs);
+    const std::optional<WindowBox> w = paintedWindow("QOR video");
     ASSERT_TRUE(w) << "the menu window never showed";
-    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
     clickAt(w->x + 64, w->y + 54);
     moveTo(0, 0);
     const int cx = w->x + w->width / 2;
@@ -287,12 +295,10 @@ TEST(WineMenu, AVideoPlaysOverTheMenuAndItsWindowCloses)
 TEST(WineMenu, TheClickAfterAHoverMessageClosedWithEnterRunsItsScript)
 {
     TempDir cd;
-    moveTo(0, 0);
     WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = \"clic\"", "MsgBox \"survol\", 0, \"QOR survol\""),
                                 "QOR survol menu", sampleFiles()));
-    const std::optional<WindowBox> w = waitForWindow("QOR survol menu", kStartMs);
+    const std::optional<WindowBox> w = paintedWindow("QOR survol menu");
     ASSERT_TRUE(w) << "the menu window never showed";
-    expectPixels(*w, {{"button 1", 64, 54, kGreen}});
     moveTo(w->x + 64, w->y + 54);
     const std::optional<WindowBox> box = waitForWindow("QOR survol", kStartMs);
     ASSERT_TRUE(box) << "the hover message never showed";
@@ -304,6 +310,42 @@ TEST(WineMenu, TheClickAfterAHoverMessageClosedWithEnterRunsItsScript)
     ASSERT_TRUE(closed) << "Enter did not close the hover message";
     clickAt(w->x + 64, w->y + 54);
     EXPECT_TRUE(waitForWindow("clic", 5000)) << "the click's script did not run";
+}
+
+// The right-click menu's "Fermer" (its second entry) ends the menu.
+TEST(WineMenu, TheContextMenuClosesTheMenu)
+{
+    MenuProject p = sampleMenu();
+    p.contextMenu = true;
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), p, "QOR contexte", sampleFiles()));
+    const std::optional<WindowBox> w = paintedWindow("QOR contexte");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    rightClickAt(w->x + 20, w->y + 250);
+    pressKey(*w, "Down Down Return");
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "Fermer did not end the menu";
+}
+
+// An InputBox's answer reaches the script; the background drags the window.
+TEST(WineMenu, AnInputBoxAnswersAndTheWindowDrags)
+{
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = InputBox(\"Nom ?\", \"QOR question\")"),
+                                "QOR saisie", sampleFiles()));
+    const std::optional<WindowBox> w = paintedWindow("QOR saisie");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    clickAt(w->x + 64, w->y + 54);
+    const std::optional<WindowBox> box = waitForWindow("QOR question", kStartMs);
+    ASSERT_TRUE(box) << "the input box never showed";
+    typeText(*box, "Paul");
+    pressKey(*box, "Return");
+    const std::optional<WindowBox> answered = waitForWindow("Paul", 5000);
+    ASSERT_TRUE(answered) << "the answer did not reach the script";
+    dragBy(answered->x + 20, answered->y + 250, 60, 40);
+    const std::optional<WindowBox> moved = waitForWindow("Paul", 5000);
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(moved->x, answered->x + 60);
+    EXPECT_EQ(moved->y, answered->y + 40);
 }
 
 TEST(WineMenu, OutlineCutsTheWindow)
