@@ -67,12 +67,19 @@ void Win32Media::playVideo(const std::string& path)
 {
     if (!openAs(path, L"qorvideo", L"style overlapped"))
         return;
+    // "where ... source" answers "left top width height".
     wchar_t source[64] = {};
     RECT menu{};
-    int left = 0, top = 0, width = 0, height = 0;
+    long size[4] = {};
     if (window_ && GetWindowRect(window_, &menu) &&
-        mciSendStringW(L"where qorvideo source", source, 64, nullptr) == 0 &&
-        swscanf(source, L"%d %d %d %d", &left, &top, &width, &height) == 4 && width > 0 && height > 0) {
+        mciSendStringW(L"where qorvideo source", source, 64, nullptr) == 0) {
+        wchar_t* at = source;
+        for (long& n : size)
+            n = std::wcstol(at, &at, 10);
+    }
+    const int width = int(size[2]);
+    const int height = int(size[3]);
+    if (width > 0 && height > 0 && width < 32768 && height < 32768) {
         RECT frame{0, 0, width, height};
         AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
         const int w = frame.right - frame.left;
