@@ -15,6 +15,11 @@ add_subdirectory(src/model)
 add_subdirectory(src/script)
 add_subdirectory(src/player/core)
 add_subdirectory(src/player/win32)
+# Compiled for size but for the script engine, whose loops are what a menu
+# waits on: that keeps the 32-bit player, whose code is larger, within 2 MB.
+foreach(library qortext qormodel qorplayercore qorplayerwin32 compil)
+  target_compile_options(${library} PRIVATE -Os)
+endforeach()
 if(QOR_BUILD_TESTS)
   add_subdirectory(tests/player/win32)
 endif()

@@ -25,15 +25,19 @@ if [[ "${1:-}" == "fuzz" ]]; then
   packages+=(clang libclang-rt-14-dev)
 fi
 
+installed() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q "install ok installed"; }
+
 missing=()
 for p in "${packages[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
-    missing+=("$p")
-  fi
+  installed "$p" || missing+=("$p")
 done
-[[ ${#missing[@]} -eq 0 ]] && exit 0
+# The Windows player is a 32-bit program; wine runs one only with its 32-bit
+# half, which comes from the i386 architecture.
+need_wine32=0
+installed wine32:i386 || need_wine32=1
+[[ ${#missing[@]} -eq 0 && $need_wine32 -eq 0 ]] && exit 0
 
-echo "Installing: ${missing[*]}"
+echo "Installing: ${missing[*]}${missing[*]:+ }$([[ $need_wine32 -eq 1 ]] && echo wine32:i386)"
 sudo=()
 if [[ $(id -u) -ne 0 ]]; then
   if command -v sudo >/dev/null; then sudo=(sudo); else
@@ -42,5 +46,15 @@ if [[ $(id -u) -ne 0 ]]; then
   fi
 fi
 export DEBIAN_FRONTEND=noninteractive
-"${sudo[@]}" apt-get update -qq -o DPkg::Lock::Timeout=600
-"${sudo[@]}" apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}"
+if [[ $need_wine32 -eq 1 ]] && ! dpkg --print-foreign-architectures | grep -qx i386; then
+  "${sudo[@]}" dpkg --add-architecture i386
+fi
+# A mirror caught mid-sync fails one index; the others still serve.
+"${sudo[@]}" apt-get update -qq -o DPkg::Lock::Timeout=600 || echo "apt-get update: some indexes were not refreshed" >&2
+apt_install() { "${sudo[@]}" apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=600 "$@"; }
+[[ ${#missing[@]} -eq 0 ]] || apt_install "${missing[@]}"
+# The build does not need it: without it only the 32-bit wine checks fail,
+# and they say why.
+if [[ $need_wine32 -eq 1 ]] && ! apt_install wine32:i386; then
+  echo "wine32:i386 could not be installed: the 32-bit player's wine checks cannot run" >&2
+fi

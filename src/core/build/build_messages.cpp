@@ -33,6 +33,13 @@ Message incorrectFolderMessage()
     return critical("Répertoire incorrect !", "Erreur !");
 }
 
+Message programIconMessage(const std::string& icon, const std::string& problem)
+{
+    return warning("L'icône « " + icon + " » n'a pas été donnée au programme du menu (" + problem +
+                       ") : il garde celle du lecteur.",
+                   "Compilation");
+}
+
 Message forgottenMediaMessage(int buttonNumber)
 {
     return info("Vous avez oublié d'indiquer un fichier multimédia pour le bouton n°" + std::to_string(buttonNumber) +

@@ -14,6 +14,7 @@ namespace qor {
 // Compilation.
 Message incorrectFolderMessage();                          // "Répertoire incorrect !"
 Message forgottenMediaMessage(int buttonNumber);           // a "vidéo" button without its file
+Message programIconMessage(const std::string& icon, const std::string& problem);   // the CD's icon not set
 Message replaceCompilationQuestion(const std::string& target);
 Message noMainMenuMessage();                               // sub-menu without qor/
 Message subMenuExistsMessage();                            // qor/<name>.exe already there

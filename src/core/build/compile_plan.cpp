@@ -86,6 +86,9 @@ CompilePlan PlanBuilder::build()
     // would otherwise be replaced by it.
     claim(program_ + std::string(program_files::player), plan_.player);
     copy(program_ + std::string(program_files::player), plan_.partialPlayer);
+    // Explorer and the taskbar show the CD's own icon for its program.
+    if (!isDefaultIconMarker(project_.icon))
+        add({.kind = CompileAction::Kind::SetIcon, .source = project_.resolve(project_.icon), .target = plan_.partialPlayer});
     show(kDone);
     buttonImages();
     sounds();

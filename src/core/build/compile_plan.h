@@ -17,6 +17,7 @@ struct CompileAction {
         WriteAutorunInf,  // target: T + "Autorun.inf"
         CreateFolder,     // target: T + "qor", unless it exists
         Copy,             // source -> target
+        SetIcon,          // source: the project's .ico, made the icon of target (the player's copy)
         WriteData,        // the compiled menu data appended to target
         Rename,           // source -> target
     };

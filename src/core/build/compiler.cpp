@@ -6,6 +6,7 @@
 #include "core/build/picture_check.h"
 #include "core/build/value_check.h"
 #include "text/text_helpers.h"
+#include "core/build/program_icon.h"
 
 namespace qor {
 namespace {
@@ -171,6 +172,19 @@ Status Compiler::perform(const CompileAction& a, const MenuProject& project, con
         });
         done_ = before + files_.fileSize(a.source).value_or(0);
         return s;
+    }
+    case K::SetIcon: {
+        Result<std::string> program = files_.readFile(a.target);
+        if (!program)
+            return program.error();
+        const Result<std::string> icon = files_.readFile(a.source);
+        const ProgramIcon set = icon ? withProgramIcon(*program, *icon) : ProgramIcon{{}, "le fichier ne se lit pas"};
+        // A CD is never spoilt by its icon: the player keeps its own.
+        if (!set.problem.empty()) {
+            dialogs_.message(programIconMessage(a.source, set.problem));
+            return {};
+        }
+        return files_.writeFile(a.target, set.program);
     }
     case K::WriteData:
         return writeMenuData(files_, project, MenuDataInfo{request.projectName, request.author}, a.target);

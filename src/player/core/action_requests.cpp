@@ -1,5 +1,6 @@
 // What a script asks for through Action.Tag and Action.Text.
 #include <functional>
+#include <optional>
 
 #include "player/core/player.h"
 #include "text/numbers.h"
@@ -7,8 +8,19 @@
 
 namespace qor::player {
 
-void Player::request(std::string_view verb, std::string_view argument)
+script::HostResult Player::request(std::string_view verb, std::string_view argument)
 {
+    // A media file missing from the CD is said, with the name the author
+    // wrote, rather than left silent.
+    std::optional<script::HostResult> missing;
+    auto play = [&](void (MediaPort::*how)(const std::string&)) {
+        const std::string file = cdFile(argument);
+        if (system_.fileExists(file))
+            (media_.*how)(file);
+        else
+            missing = script::HostResult::fail(script::errc::FileNotFound,
+                                               "Fichier introuvable : " + std::string(argument));
+    };
     auto scrollBar = [this, argument](bool shown) {
         const double n = readNumber(argument);
         for (std::size_t i = 0; i < scene_.texts.size(); ++i)
@@ -26,9 +38,9 @@ void Player::request(std::string_view verb, std::string_view argument)
         std::string_view name;
         std::function<void()> carryOut;
     } verbs[] = {
-        {"JouerVideo", [&] { media_.playVideo(cdFile(argument)); }},
-        {"JouerSon", [&] { media_.playSound(cdFile(argument)); }},
-        {"JouerSonWAV", [&] { media_.playSound(cdFile(argument)); }},
+        {"JouerVideo", [&] { play(&MediaPort::playVideo); }},
+        {"JouerSon", [&] { play(&MediaPort::playSound); }},
+        {"JouerSonWAV", [&] { play(&MediaPort::playSound); }},
         {"AfficheBarre", [&] { scrollBar(true); }},
         {"MasqueBarre", [&] { scrollBar(false); }},
         {"OuvrirCD", [&] { system_.ejectTray(drive(), true); }},
@@ -38,9 +50,10 @@ void Player::request(std::string_view verb, std::string_view argument)
     for (const auto& v : verbs)
         if (equalsNoCaseAscii(v.name, verb)) {
             v.carryOut();
-            return;
+            return missing ? std::move(*missing) : script::HostResult::ok();
         }
     // Any other verb asks for nothing this player knows: nothing happens.
+    return script::HostResult::ok();
 }
 
 }  // namespace qor::player

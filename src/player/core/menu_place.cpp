@@ -37,6 +37,46 @@ std::string_view folderPart(std::string_view path)
     return cut == std::string_view::npos ? std::string_view() : path.substr(0, cut + 1);
 }
 
+// Where what (ASCII) first occurs in text from from on, letter case ignored.
+std::size_t findNoCase(std::string_view text, std::string_view what, std::size_t from)
+{
+    for (std::size_t i = from; i + what.size() <= text.size(); ++i)
+        if (equalsNoCaseAscii(text.substr(i, what.size()), what))
+            return i;
+    return std::string_view::npos;
+}
+
+// A folder nothing can go above: "/", "X:\", "\\server\share\" (a UNC share).
+bool isRootFolder(std::string_view folder)
+{
+    if (folder.size() <= 1 || (folder.size() == 3 && hasDriveLetter(folder)))
+        return true;
+    if (folder.size() > 2 && isSeparator(folder[0]) && isSeparator(folder[1])) {
+        const std::size_t server = folder.find_first_of("/\\", 2);
+        if (server == std::string_view::npos)
+            return true;
+        const std::size_t share = folder.find_first_of("/\\", server + 1);
+        return share == std::string_view::npos || share + 1 == folder.size();
+    }
+    return false;
+}
+
+// Whether path lies inside folder (which ends with a separator), either separator, any letter case.
+bool liesUnder(std::string_view path, std::string_view folder)
+{
+    if (folder.empty() || path.size() < folder.size())
+        return false;
+    for (std::size_t i = 0; i < folder.size(); ++i) {
+        const char a = path[i];
+        const char b = folder[i];
+        if (isSeparator(a) && isSeparator(b))
+            continue;
+        if (std::tolower(static_cast<unsigned char>(a)) != std::tolower(static_cast<unsigned char>(b)))
+            return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 MenuPlace MenuPlace::of(std::string_view menuFile, char separator, std::string driveLetter)
@@ -45,12 +85,12 @@ MenuPlace MenuPlace::of(std::string_view menuFile, char separator, std::string d
     place.separator = separator;
     place.menuFile = withSeparators(menuFile, separator);
     place.playerFolder = std::string(folderPart(place.menuFile));
-    std::string_view folder = place.playerFolder;
-    if (folder.size() > 1)
+    place.cdRoot = place.playerFolder;
+    if (!isRootFolder(place.playerFolder)) {
+        std::string_view folder = place.playerFolder;
         folder.remove_suffix(1);
-    place.cdRoot = std::string(folderPart(folder));
-    if (place.cdRoot.empty())
-        place.cdRoot = place.playerFolder;
+        place.cdRoot = std::string(folderPart(folder));
+    }
     place.driveLetter = std::move(driveLetter);
     return place;
 }
@@ -59,7 +99,28 @@ std::string expandPlaceholders(std::string_view text, const MenuPlace& place)
 {
     if (text.find('[') == std::string_view::npos)
         return std::string(text);
-    std::string out = replaceNoCase(text, "[LECT]", place.driveLetter);
+    // "[LECT]:" names the CD's top folder, which on a copy in a folder or on a
+    // share is not a drive's root: it becomes that folder's full path, so the
+    // scripts written for a CD in a drive work wherever the menu was copied.
+    std::string out;
+    const std::string_view root = place.cdRoot;
+    std::size_t from = 0;
+    for (;;) {
+        const std::size_t at = findNoCase(text, "[LECT]:", from);
+        if (at == std::string_view::npos)
+            break;
+        out.append(text.substr(from, at - from));
+        std::size_t next = at + 7;
+        if (next < text.size() && isSeparator(text[next])) {
+            out.append(root);
+            ++next;
+        } else {
+            out.append(root.size() > 1 ? root.substr(0, root.size() - 1) : root);
+        }
+        from = next;
+    }
+    out.append(text.substr(from));
+    out = replaceNoCase(out, "[LECT]", place.driveLetter);
     out = replaceNoCase(out, "[CHEMIN]", place.playerFolder);
     return replaceNoCase(out, "[JOINDRE]", place.cdRoot);
 }
@@ -70,7 +131,10 @@ std::string resolveMenuPath(std::string_view path, const MenuPlace& place, std::
     std::string_view p = expanded;
     if (p.empty())
         return {};
-    if (hasDriveLetter(p) && !place.driveLetter.empty() && equalsNoCaseAscii(p.substr(0, 1), place.driveLetter)) {
+    // A path on the menu's own drive is taken under the CD's top folder, unless
+    // it already lies there (what a placeholder gave): never rooted twice.
+    if (hasDriveLetter(p) && !place.driveLetter.empty() && equalsNoCaseAscii(p.substr(0, 1), place.driveLetter) &&
+        !liesUnder(p, place.cdRoot)) {
         p.remove_prefix(std::min<std::size_t>(3, p.size()));
         return place.cdRoot + withSeparators(p, place.separator);
     }

@@ -15,11 +15,15 @@ struct MenuPlace {
     char separator = '/';
 
     // The place of a menu file. The CD root is the parent of the file's
-    // folder (the player stands in qor/ on the CD).
+    // folder (the player stands in qor/ on the CD), or that folder itself
+    // when it is a root ("X:\", a UNC share "\\server\share\", "/").
     static MenuPlace of(std::string_view menuFile, char separator, std::string driveLetter);
 };
 
-// "[LECT]", "[CHEMIN]" and "[JOINDRE]" replaced, in any letter case.
+// "[LECT]", "[CHEMIN]" and "[JOINDRE]" replaced, in any letter case, by full
+// paths of where the menu is: "[LECT]:\" (or "[LECT]:") is the CD's top folder,
+// which is a drive's root only when the menu runs from one; "[LECT]" alone is
+// the drive letter ("" on a share).
 std::string expandPlaceholders(std::string_view text, const MenuPlace& place);
 
 // A path as a script or the data gives it, made a full path of this system:

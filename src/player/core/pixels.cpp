@@ -19,6 +19,18 @@ int twipsToPixels(double twips, double twipsPerPixel)
     return int(std::clamp(pixels, double(-kMaxPixels), double(kMaxPixels)));
 }
 
+double windowScale(double densityFactor, double width, double height, int areaWidth, int areaHeight)
+{
+    double scale = densityFactor > 0 && std::isfinite(densityFactor) ? densityFactor : 1;
+    if (width > 0 && areaWidth > 0 && width * scale > areaWidth)
+        scale = areaWidth / width;
+    if (height > 0 && areaHeight > 0 && height * scale > areaHeight)
+        scale = areaHeight / height;
+    // A window of one pixel at the least, however hostile its size.
+    const double least = 1 / std::max({1.0, width, height});
+    return std::max(scale, least);
+}
+
 std::vector<PixelPoint> outlineInPixels(const ShapePoints& points, double twipsPerPixelX, double twipsPerPixelY)
 {
     std::vector<PixelPoint> out;

@@ -18,6 +18,12 @@ int twipsToPixels(double twips, double twipsPerPixel);
 // rectangular, so the menu can still be seen and closed.
 std::vector<PixelPoint> outlineInPixels(const ShapePoints& points, double twipsPerPixelX, double twipsPerPixelY);
 
+// How much a window laid out at width x height pixels (15 twips each) is
+// scaled on a screen: by the screen's density factor (1 at 96 dpi), but
+// never beyond the area it may fill (the work area), where it is reduced as
+// a whole so every button stays inside it. Never 0 or less.
+double windowScale(double densityFactor, double width, double height, int areaWidth, int areaHeight);
+
 // The pointer shape for a MousePointer number; unknown numbers give Default.
 Cursor cursorFor(int mousePointer);
 

@@ -215,6 +215,12 @@ void Player::windowMoved(int leftPixels, int topPixels)
     scene_.window.top = topPixels * screen_.twipsPerPixelY;
 }
 
+void Player::windowStateChanged(int state)
+{
+    if (state >= 0 && state <= 2)
+        scene_.window.windowState = state;
+}
+
 std::vector<std::string> Player::contextMenuEntries() const
 {
     if (!scene_.window.contextMenu)
@@ -269,12 +275,17 @@ MediaKind mediaKindOf(std::string_view path)
     return MediaKind::Other;
 }
 
-// A media name of a "vidéo" button or of the startup action, from the CD root.
+// A media name of a "vidéo" button or of the startup action, from the CD
+// root. A file missing from the CD is said, by the name the author wrote.
 void Player::playMedia(std::string_view name)
 {
     const std::string path = cdFile(name);
     if (path.empty())
         return;
+    if (!system_.fileExists(path)) {
+        view_.messageBox({"Fichier introuvable : " + std::string(name), std::string(kScriptErrorTitle), 16});
+        return;
+    }
     switch (mediaKindOf(path)) {
     case MediaKind::Video:
         media_.playVideo(path);

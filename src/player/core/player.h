@@ -49,6 +49,10 @@ public:
     void textEdited(std::size_t index, std::string text);
     // The window dragged to a new place, in pixels on the screen.
     void windowMoved(int leftPixels, int topPixels);
+    // The user minimised, restored or maximised the window through the
+    // system (0 normal, 1 minimised, 2 maximised): scripts see it, and the
+    // next one that shows the window shows it as it now is.
+    void windowStateChanged(int state);
 
     // The right-click menu's entries, none when the menu has none.
     std::vector<std::string> contextMenuEntries() const;
@@ -80,7 +84,7 @@ private:
     void buttonChanged(std::size_t index) override;
     void textChanged(std::size_t index) override;
     void timerChanged() override;
-    void request(std::string_view verb, std::string_view argument) override;
+    script::HostResult request(std::string_view verb, std::string_view argument) override;
     bool closing() const override { return closeAsked_ || closed_; }
     script::HostResult loadPicture(std::string_view path) override;
 

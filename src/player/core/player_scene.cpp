@@ -41,8 +41,9 @@ WindowScene windowFrom(const MenuProject& p, const MenuDataInfo& info, const Scr
         w.height = screen.height * screen.twipsPerPixelY;
     } else {
         const MenuProject defaults;
-        w.width = clampedSize(p.width, defaults.width, screen.width, screen.twipsPerPixelX);
-        w.height = clampedSize(p.height, defaults.height, screen.height, screen.twipsPerPixelY);
+        const bool cut = !screen.reducesWholeWindow;
+        w.width = clampedSize(p.width, defaults.width, cut ? screen.width : kMaxPixels, screen.twipsPerPixelX);
+        w.height = clampedSize(p.height, defaults.height, cut ? screen.height : kMaxPixels, screen.twipsPerPixelY);
     }
     // Centred on the screen, on whole pixels.
     w.left = std::floor((screen.width - w.width / screen.twipsPerPixelX) / 2) * screen.twipsPerPixelX;

@@ -13,6 +13,9 @@ struct ScreenInfo {
     int height = 600;
     double twipsPerPixelX = 15;
     double twipsPerPixelY = 15;
+    // The front-end reduces a window larger than the screen as a whole
+    // (windowScale): its size is then kept as designed, not cut to the screen.
+    bool reducesWholeWindow = false;
 };
 
 struct ImageSize {

@@ -214,8 +214,7 @@ public:
         if (!equalsNoCase(name, "Text"))
             return noMember();
         verb_ = std::move(s);
-        stage_.request(verb_, tag_);
-        return HostResult::ok();
+        return stage_.request(verb_, tag_);
     }
 
 private:

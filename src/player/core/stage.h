@@ -21,8 +21,9 @@ public:
     virtual void buttonChanged(std::size_t index) = 0;
     virtual void textChanged(std::size_t index) = 0;
     virtual void timerChanged() = 0;
-    // Action.Text = verb, with Action.Tag as the argument.
-    virtual void request(std::string_view verb, std::string_view argument) = 0;
+    // Action.Text = verb, with Action.Tag as the argument; error 53 when the
+    // media file it names is missing.
+    virtual script::HostResult request(std::string_view verb, std::string_view argument) = 0;
     // The menu is closing: what is left of the running script shows no box.
     virtual bool closing() const = 0;
     // LoadPicture: a picture object, or error 53 / 481.

@@ -21,6 +21,8 @@ void ButtonWidget::setPictures(const QPixmap& normal, const QPixmap& shown)
 void ButtonWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    // Scaled smoothly on a screen denser than 96 dpi.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!shown_.isNull()) {
         painter.drawPixmap(0, 0, shown_);
         return;

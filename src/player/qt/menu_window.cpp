@@ -32,13 +32,12 @@ MenuWindow::~MenuWindow() = default;
 ScreenInfo MenuWindow::screen() const
 {
     ScreenInfo info;
+    // The menu is laid out at 15 twips per pixel on every screen: Qt's
+    // pixels are those of a 96-dpi screen, and Qt scales the whole window,
+    // pictures and text, by the screen's factor.
     if (const QScreen* s = QGuiApplication::primaryScreen()) {
         info.width = s->geometry().width();
         info.height = s->geometry().height();
-        if (s->logicalDotsPerInchX() > 0)
-            info.twipsPerPixelX = 1440.0 / s->logicalDotsPerInchX();
-        if (s->logicalDotsPerInchY() > 0)
-            info.twipsPerPixelY = 1440.0 / s->logicalDotsPerInchY();
     }
     return info;
 }
@@ -241,6 +240,7 @@ std::optional<std::string> MenuWindow::inputBox(const script::InputBoxRequest& r
 void MenuWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), toQColor(window_.backColor));
     if (!window_.backgroundImage.empty()) {
         const QPixmap& image = images_.pixmap(window_.backgroundImage);
@@ -330,6 +330,21 @@ void MenuWindow::contextMenuEvent(QContextMenuEvent* event)
     const int at = int(menu.actions().indexOf(const_cast<QAction*>(chosen)));
     if (at >= 0)
         player_->chooseContextEntry(std::size_t(at));
+}
+
+// Minimised or restored by the window system: the core's state follows, so
+// the next script that shows the window keeps it as it is.
+void MenuWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || shownState_ < 0)
+        return;
+    const int state = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+    if (state == shownState_)
+        return;
+    shownState_ = state;
+    if (player_)
+        player_->windowStateChanged(state);
 }
 
 void MenuWindow::closeEvent(QCloseEvent* event)

@@ -4,6 +4,7 @@
 #include <mmsystem.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "player/core/pixels.h"
 #include "player/win32/boxes.h"
@@ -13,6 +14,10 @@
 
 namespace qor::player {
 namespace {
+
+#ifndef WM_DPICHANGED
+constexpr UINT WM_DPICHANGED = 0x02E0;
+#endif
 
 constexpr wchar_t kWindowClass[] = L"QorMenuWindow";
 constexpr UINT_PTR kTimerId = 1;
@@ -58,6 +63,8 @@ MenuWindow::MenuWindow(Pictures& pictures, Win32Media& media)
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, LONG_PTR(this));
     SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, LONG_PTR(&MenuWindow::proc));
     screen_ = screen();
+    density_ = densityFactor();
+    scale_ = density_;
     media_.setNotifyWindow(hwnd_);
 }
 
@@ -71,22 +78,45 @@ MenuWindow::~MenuWindow()
     }
 }
 
+// The density factor of the window's screen: 1 at 96 dpi.
+double MenuWindow::densityFactor() const
+{
+    using DpiForWindow = UINT(WINAPI*)(HWND);
+    static const auto dpiForWindow =
+        reinterpret_cast<DpiForWindow>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+    UINT dpi = dpiForWindow && hwnd_ ? dpiForWindow(hwnd_) : 0;
+    if (dpi == 0) {
+        HDC dc = GetDC(nullptr);
+        dpi = UINT(GetDeviceCaps(dc, LOGPIXELSX));
+        ReleaseDC(nullptr, dc);
+    }
+    return dpi > 0 ? dpi / 96.0 : 1.0;
+}
+
+// The menu is laid out at 15 twips per pixel on every screen: the core sees
+// the screen in those pixels, and the window scales as a whole.
 ScreenInfo MenuWindow::screen() const
 {
+    const double density = densityFactor();
     ScreenInfo info;
-    info.width = GetSystemMetrics(SM_CXSCREEN);
-    info.height = GetSystemMetrics(SM_CYSCREEN);
-    HDC dc = GetDC(nullptr);
-    if (const int dpi = GetDeviceCaps(dc, LOGPIXELSX); dpi > 0)
-        info.twipsPerPixelX = 1440.0 / dpi;
-    if (const int dpi = GetDeviceCaps(dc, LOGPIXELSY); dpi > 0)
-        info.twipsPerPixelY = 1440.0 / dpi;
-    ReleaseDC(nullptr, dc);
+    info.width = std::max(1, int(GetSystemMetrics(SM_CXSCREEN) / density));
+    info.height = std::max(1, int(GetSystemMetrics(SM_CYSCREEN) / density));
+    info.reducesWholeWindow = true;
     return info;
 }
 
-int MenuWindow::px(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelX); }
-int MenuWindow::py(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelY); }
+ScreenInfo MenuWindow::scaledScreen() const
+{
+    ScreenInfo info = screen_;
+    info.twipsPerPixelX = 15 / scale_;
+    info.twipsPerPixelY = 15 / scale_;
+    return info;
+}
+
+int MenuWindow::px(double twips) const { return twipsToPixels(twips, 15 / scale_); }
+int MenuWindow::py(double twips) const { return twipsToPixels(twips, 15 / scale_); }
+int MenuWindow::scaled(int layoutPixels) const { return int(std::lround(layoutPixels * scale_)); }
 
 std::optional<ImageSize> MenuWindow::imageSize(const std::string& path)
 {
@@ -99,7 +129,7 @@ std::optional<ImageSize> MenuWindow::imageSize(const std::string& path)
 void MenuWindow::show(const Scene& scene)
 {
     buttons_ = scene.buttons;
-    texts_.reset(scene.texts, screen_);
+    texts_.reset(scene.texts, scaledScreen());
     if (texts_.createSome(kTextsAtOnce))
         SetTimer(hwnd_, kMakeTextsTimerId, USER_TIMER_MINIMUM, nullptr);
     windowChanged(scene.window);
@@ -127,12 +157,33 @@ void MenuWindow::windowChanged(const WindowScene& w)
 
 void MenuWindow::applyGeometry(const WindowScene& w)
 {
-    if (w.fullScreen)
-        SetWindowPos(hwnd_, nullptr, 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
-                     SWP_NOZORDER | SWP_NOACTIVATE);
-    else if (!IsZoomed(hwnd_))
-        SetWindowPos(hwnd_, nullptr, px(w.left), py(w.top), std::max(1, px(w.width)), std::max(1, py(w.height)),
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+    // The whole window at the screen's density, reduced as a whole where
+    // it would not fit the work area, and then centred in it.
+    MONITORINFO monitor{sizeof monitor, {}, {}, 0};
+    GetMonitorInfoW(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& area = w.fullScreen ? monitor.rcMonitor : monitor.rcWork;
+    const int areaWidth = area.right - area.left;
+    const int areaHeight = area.bottom - area.top;
+    const double before = scale_;
+    scale_ = w.fullScreen ? density_
+                          : windowScale(density_, w.width / 15, w.height / 15, areaWidth, areaHeight);
+    if (scale_ != before) {
+        texts_.rescale(scaledScreen());
+        dropBackground();
+    }
+    if (w.fullScreen) {
+        SetWindowPos(hwnd_, nullptr, area.left, area.top, areaWidth, areaHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    } else if (!IsZoomed(hwnd_)) {
+        const int width = std::max(1, px(w.width));
+        const int height = std::max(1, py(w.height));
+        int left = px(w.left);
+        int top = py(w.top);
+        if (scale_ < density_) {
+            left = area.left + (areaWidth - width) / 2;
+            top = area.top + (areaHeight - height) / 2;
+        }
+        SetWindowPos(hwnd_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
     // Only what a script changed: a window the user minimised stays so while
     // the timer changes its caption.
     const int state = w.visible ? w.windowState : -1;
@@ -153,8 +204,30 @@ void MenuWindow::applyRegion()
     const std::vector<std::uint32_t> kept =
         window_.transparencyImage.empty() ? std::vector<std::uint32_t>{}
                                           : pictures_.pixels(window_.transparencyImage, client.right, client.bottom);
+    std::vector<PixelPoint> outline = window_.shape;
+    for (PixelPoint& p : outline)
+        p = PixelPoint{scaled(p.x), scaled(p.y)};
     // The window owns the region once it is set.
-    SetWindowRgn(hwnd_, windowRegion(client.right, client.bottom, window_.shape, kept), TRUE);
+    SetWindowRgn(hwnd_, windowRegion(client.right, client.bottom, outline, kept), TRUE);
+}
+
+// Moved to a screen of another density: the whole window follows, where
+// the system suggests it.
+void MenuWindow::densityChanged(double factor, const RECT& suggested)
+{
+    if (!(factor > 0) || factor == density_)
+        return;
+    density_ = factor;
+    SetWindowPos(hwnd_, nullptr, suggested.left, suggested.top, 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
+    RECT at{};
+    GetWindowRect(hwnd_, &at);
+    window_.left = at.left * 15 / factor;
+    window_.top = at.top * 15 / factor;
+    if (player_)
+        player_->windowMoved(int(std::lround(at.left / factor)), int(std::lround(at.top / factor)));
+    applyGeometry(window_);
+    applyRegion();
+    InvalidateRect(hwnd_, nullptr, FALSE);
 }
 
 void MenuWindow::dropBackground()
@@ -205,12 +278,18 @@ HWND MenuWindow::owner() const
 
 int MenuWindow::messageBox(const MessageRequest& request)
 {
-    return showMessageBox(owner(), request);
+    ++boxesOpen_;
+    const int answer = showMessageBox(owner(), request);
+    --boxesOpen_;
+    return answer;
 }
 
 std::optional<std::string> MenuWindow::inputBox(const script::InputBoxRequest& request)
 {
-    return showInputBox(owner(), request);
+    ++boxesOpen_;
+    std::optional<std::string> answer = showInputBox(owner(), request);
+    --boxesOpen_;
+    return answer;
 }
 
 RECT MenuWindow::buttonRect(std::size_t index) const
@@ -219,7 +298,8 @@ RECT MenuWindow::buttonRect(std::size_t index) const
     const std::optional<Pictures::Size> size = pictures_.size(b.normalImage);
     const int x = px(b.left);
     const int y = py(b.top);
-    return RECT{x, y, x + (size ? size->width : kPlaceholderSize.cx), y + (size ? size->height : kPlaceholderSize.cy)};
+    return RECT{x, y, x + scaled(size ? size->width : kPlaceholderSize.cx),
+                y + scaled(size ? size->height : kPlaceholderSize.cy)};
 }
 
 // The last button lies on top, as it was placed last.
@@ -275,12 +355,12 @@ void MenuWindow::paintBackground(HDC dc, int width, int height)
         const std::optional<Pictures::Size> size = pictures_.size(window_.backgroundImage);
         if (size)
             pictures_.draw(dc, window_.backgroundImage,
-                           window_.stretch ? all : RECT{0, 0, size->width, size->height});
+                           window_.stretch ? all : RECT{0, 0, scaled(size->width), scaled(size->height)});
     }
     if (!window_.borderVisible || window_.borderWidth <= 0)
         return;
     // The outline stays inside the window, whatever its width.
-    HPEN pen = CreatePen(PS_INSIDEFRAME, window_.borderWidth, toColorRef(window_.borderColor));
+    HPEN pen = CreatePen(PS_INSIDEFRAME, std::max(1, scaled(window_.borderWidth)), toColorRef(window_.borderColor));
     HGDIOBJ oldPen = SelectObject(dc, pen);
     HGDIOBJ oldBrush = SelectObject(dc, GetStockObject(NULL_BRUSH));
     if (window_.borderShape == 2) {
@@ -306,10 +386,11 @@ void MenuWindow::paintButtons(HDC dc, const RECT& dirty)
         const std::string& shown = buttons_[i].shownImage();
         const std::optional<Pictures::Size> size = pictures_.size(shown);
         if (size) {
-            // The shown picture at its own size, inside the button's box.
+            // The shown picture at its own size (scaled with the window),
+            // inside the button's box.
             const int saved = SaveDC(dc);
             IntersectClipRect(dc, r.left, r.top, r.right, r.bottom);
-            pictures_.draw(dc, shown, RECT{r.left, r.top, r.left + size->width, r.top + size->height});
+            pictures_.draw(dc, shown, RECT{r.left, r.top, r.left + scaled(size->width), r.top + scaled(size->height)});
             RestoreDC(dc, saved);
             continue;
         }
@@ -334,8 +415,21 @@ LRESULT MenuWindow::handle(UINT message, WPARAM w, LPARAM l)
         return 0;
     switch (message) {
     case WM_PAINT: paint(); return 0;
+    case WM_DPICHANGED:
+        densityChanged(HIWORD(w) / 96.0, *reinterpret_cast<const RECT*>(l));
+        return 0;
     case WM_ERASEBKGND: return 1;
     case WM_SIZE:
+        // Minimised or restored from the taskbar: the core's state follows,
+        // so the next script that shows the window keeps it as it is.
+        if (w == SIZE_MINIMIZED || w == SIZE_RESTORED || w == SIZE_MAXIMIZED) {
+            const int state = w == SIZE_MINIMIZED ? 1 : w == SIZE_MAXIMIZED ? 2 : 0;
+            if (shownState_ >= 0 && state != shownState_) {
+                shownState_ = state;
+                if (player_)
+                    player_->windowStateChanged(state);
+            }
+        }
         if (regionSize_.cx != LOWORD(l) || regionSize_.cy != HIWORD(l))
             applyRegion();
         InvalidateRect(hwnd_, nullptr, FALSE);
@@ -370,7 +464,7 @@ LRESULT MenuWindow::handle(UINT message, WPARAM w, LPARAM l)
         break;
     case MM_MCINOTIFY:
         if (w == MCI_NOTIFY_SUCCESSFUL)
-            media_.musicEnded();
+            media_.ended(UINT(l));
         return 0;
     case WM_CLOSE:
         // The system's close goes through the player, which stops the media
@@ -394,6 +488,11 @@ bool MenuWindow::handleMouse(UINT message, POINT at)
     case WM_LBUTTONUP: mouseUp(at); return true;
     case WM_MOUSELEAVE:
         tracking_ = false;
+        // A box a script opened (a hover message, say) took the pointer but
+        // the user did not leave the button: closed with Enter, the next
+        // click on it is a click, not a new entry.
+        if (boxesOpen_ > 0)
+            return true;
         if (!pressed_)
             hover(std::nullopt);
         if (player_)
@@ -458,7 +557,7 @@ void MenuWindow::mouseDown(POINT at)
     RECT after{};
     GetWindowRect(hwnd_, &after);
     if (player_ && !closing_ && (after.left != before.left || after.top != before.top))
-        player_->windowMoved(after.left, after.top);
+        player_->windowMoved(int(std::lround(after.left / scale_)), int(std::lround(after.top / scale_)));
 }
 
 void MenuWindow::mouseUp(POINT at)

@@ -57,14 +57,23 @@ private:
     void applyRegion();
     void dropBackground();
     HWND owner() const;
+    // Twips and layout pixels to this screen's pixels, at the window's scale.
     int px(double twips) const;
     int py(double twips) const;
+    int scaled(int layoutPixels) const;
+    ScreenInfo scaledScreen() const;
+    double densityFactor() const;
+    void densityChanged(double factor, const RECT& suggested);
 
     Pictures& pictures_;
     Win32Media& media_;
     Player* player_ = nullptr;
     HWND hwnd_ = nullptr;
     ScreenInfo screen_;
+    // Screen pixels per layout pixel: the density factor of the window's
+    // screen (1 at 96 dpi), less when the window must be reduced to fit.
+    double density_ = 1;
+    double scale_ = 1;
     WindowScene window_;
     std::vector<ButtonScene> buttons_;
     TextBoxes texts_;
@@ -72,6 +81,7 @@ private:
     std::optional<std::size_t> hovered_;
     std::optional<std::size_t> pressed_;
     bool tracking_ = false;
+    int boxesOpen_ = 0;          // message and input boxes open over the window
     HBITMAP background_ = nullptr;   // colour, picture and border at the current size
     SIZE backgroundSize_{};
     SIZE regionSize_{};

@@ -104,7 +104,15 @@ bool Pictures::draw(HDC dc, const std::string& path, RECT to)
     gp::GdipSetInterpolationMode(graphics, scaled ? Gdiplus::InterpolationModeHighQualityBilinear
                                                   : Gdiplus::InterpolationModeNearestNeighbor);
     gp::GdipSetPixelOffsetMode(graphics, Gdiplus::PixelOffsetModeHalf);
-    gp::GdipDrawImageRectI(graphics, static_cast<GpImage*>(load(path)), to.left, to.top, w, h);
+    // Scaled, the edge pixels are blended with their mirror rather than with
+    // nothing: a picture keeps its full size and colour to its border.
+    Gdiplus::GpImageAttributes* attributes = nullptr;
+    if (scaled && gp::GdipCreateImageAttributes(&attributes) == Gdiplus::Ok)
+        gp::GdipSetImageAttributesWrapMode(attributes, Gdiplus::WrapModeTileFlipXY, 0, FALSE);
+    gp::GdipDrawImageRectRectI(graphics, static_cast<GpImage*>(load(path)), to.left, to.top, w, h, 0, 0, own->width,
+                               own->height, Gdiplus::UnitPixel, attributes, nullptr, nullptr);
+    if (attributes)
+        gp::GdipDisposeImageAttributes(attributes);
     gp::GdipDeleteGraphics(graphics);
     return true;
 }

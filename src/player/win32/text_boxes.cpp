@@ -21,13 +21,12 @@ DWORD styleOf(const TextScene& t)
            (t.scrollBar ? WS_VSCROLL : 0) | (t.locked ? ES_READONLY : 0) | (t.visible ? WS_VISIBLE : 0);
 }
 
-HFONT fontOf(const TextScene& t)
+// The font at the window's scale: drawn at that size, text stays crisp and
+// keeps its place in its box, which is scaled alike.
+HFONT fontOf(const TextScene& t, double scale)
 {
     const double points = t.fontSize > 0 && t.fontSize < 1000 ? t.fontSize : kDefaultFontSize;
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    const int height = -int(points * dpi / 72.0 + 0.5);
+    const int height = -int(points * 96 * scale / 72.0 + 0.5);
     return CreateFontW(height, 0, 0, 0, t.fontBold ? FW_BOLD : FW_NORMAL, t.fontItalic, t.fontUnderline,
                        t.fontStrikethru, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                        DEFAULT_PITCH | FF_DONTCARE, widen(t.fontName).c_str());
@@ -74,7 +73,7 @@ HFONT TextBoxes::font(const TextScene& t)
     const FontKey key{t.fontName, t.fontSize, t.fontBold, t.fontItalic, t.fontUnderline, t.fontStrikethru};
     auto [at, added] = fonts_.try_emplace(key, nullptr);
     if (added)
-        at->second = fontOf(t);
+        at->second = fontOf(t, 15 / screen_.twipsPerPixelY);
     return at->second;
 }
 
@@ -96,6 +95,21 @@ void TextBoxes::reset(const std::vector<TextScene>& texts, const ScreenInfo& scr
     for (std::size_t i = 0; i < texts.size(); ++i)
         boxes_[i].scene = texts[i];
     made_ = 0;
+}
+
+void TextBoxes::rescale(const ScreenInfo& screen)
+{
+    if (screen.twipsPerPixelX == screen_.twipsPerPixelX && screen.twipsPerPixelY == screen_.twipsPerPixelY)
+        return;
+    // The old fonts go once no box uses them any more.
+    std::map<FontKey, HFONT> old;
+    old.swap(fonts_);
+    screen_ = screen;
+    for (std::size_t i = 0; i < made_; ++i)
+        if (boxes_[i].window)
+            present(boxes_[i]);
+    for (auto& [key, f] : old)
+        DeleteObject(f);
 }
 
 bool TextBoxes::createSome(std::size_t count)

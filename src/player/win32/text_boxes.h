@@ -26,7 +26,10 @@ public:
     TextBoxes(const TextBoxes&) = delete;
     TextBoxes& operator=(const TextBoxes&) = delete;
 
+    // screen: its twips per pixel give the window's scale (15 / scale).
     void reset(const std::vector<TextScene>& texts, const ScreenInfo& screen);
+    // The window's scale changed: every box and font follows.
+    void rescale(const ScreenInfo& screen);
     // Makes up to count more boxes; true while some are still to be made.
     bool createSome(std::size_t count);
     void change(std::size_t index, const TextScene& text);

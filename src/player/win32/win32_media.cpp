@@ -2,6 +2,8 @@
 
 #include <mmsystem.h>
 
+#include <cwchar>
+
 #include "player/win32/wide.h"
 
 namespace qor::player {
@@ -39,9 +41,13 @@ void Win32Media::playMusic(const std::string& path)
         mci(L"play qormusic notify", window_);
 }
 
-void Win32Media::musicEnded()
+void Win32Media::ended(UINT device)
 {
-    if (music_ && mci(L"seek qormusic to start"))
+    if (device != 0 && device == mciGetDeviceIDW(L"qorvideo")) {
+        mci(L"close qorvideo");
+        return;
+    }
+    if (music_ && device == mciGetDeviceIDW(L"qormusic") && mci(L"seek qormusic to start"))
         mci(L"play qormusic notify", window_);
 }
 
@@ -55,11 +61,36 @@ void Win32Media::playSound(const std::string& path)
         mci(L"play qorsound");
 }
 
-// The video plays in a pop-up window of its own, which the user closes.
+// The video plays in a window of its own centred over the menu, which the
+// user may close and which closes when the video ends.
 void Win32Media::playVideo(const std::string& path)
 {
-    if (openAs(path, L"qorvideo", L"style overlapped"))
-        mci(L"play qorvideo");
+    if (!openAs(path, L"qorvideo", L"style overlapped"))
+        return;
+    // "where ... source" answers "left top width height".
+    wchar_t source[64] = {};
+    RECT menu{};
+    long size[4] = {};
+    if (window_ && GetWindowRect(window_, &menu) &&
+        mciSendStringW(L"where qorvideo source", source, 64, nullptr) == 0) {
+        wchar_t* at = source;
+        for (long& n : size)
+            n = std::wcstol(at, &at, 10);
+    }
+    const int width = int(size[2]);
+    const int height = int(size[3]);
+    if (width > 0 && height > 0 && width < 32768 && height < 32768) {
+        RECT frame{0, 0, width, height};
+        AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
+        const int w = frame.right - frame.left;
+        const int h = frame.bottom - frame.top;
+        const int x = (menu.left + menu.right - w) / 2;
+        const int y = (menu.top + menu.bottom - h) / 2;
+        mci(L"put qorvideo window at " + std::to_wstring(x) + L" " + std::to_wstring(y) + L" " + std::to_wstring(w) +
+            L" " + std::to_wstring(h));
+    }
+    mci(L"window qorvideo state show");
+    mci(L"play qorvideo notify", window_);
 }
 
 void Win32Media::stopAll()

@@ -16,8 +16,9 @@ public:
     ~Win32Media() override;
     // The window that hears when the music ends, to start it again.
     void setNotifyWindow(HWND window) { window_ = window; }
-    // MM_MCINOTIFY for the music: from the start again.
-    void musicEnded();
+    // MM_MCINOTIFY: the music starts again from the start; a video that
+    // ended closes its window.
+    void ended(UINT device);
 
     void playMusic(const std::string& path) override;
     void playSound(const std::string& path) override;

@@ -20,11 +20,31 @@ struct HandleCloser {
 };
 using Handle = std::unique_ptr<void, HandleCloser>;
 
+// The shell takes no path of 260 characters or more: such a file is named
+// by its short (8.3) path, which every folder of it has.
+std::wstring shellPath(const std::string& target)
+{
+    std::wstring file = widen(target);
+    if (file.size() < MAX_PATH)
+        return file;
+    const std::wstring full = longPath(file);
+    std::wstring shortPath(GetShortPathNameW(full.c_str(), nullptr, 0), L'\0');
+    const DWORD n = GetShortPathNameW(full.c_str(), shortPath.data(), DWORD(shortPath.size()));
+    if (n == 0 || n >= shortPath.size())
+        return file;
+    shortPath.resize(n);
+    if (shortPath.starts_with(L"\\\\?\\UNC\\"))
+        return L"\\\\" + shortPath.substr(8);
+    if (shortPath.starts_with(L"\\\\?\\"))
+        return shortPath.substr(4);
+    return shortPath;
+}
+
 bool shellOpen(const std::string& target, const std::string& arguments)
 {
     if (target.empty())
         return false;
-    const std::wstring file = widen(target);
+    const std::wstring file = shellPath(target);
     const std::wstring args = widen(arguments);
     const HINSTANCE r = ShellExecuteW(nullptr, L"open", file.c_str(), args.empty() ? nullptr : args.c_str(), nullptr,
                                       SW_SHOWNORMAL);
@@ -95,10 +115,25 @@ bool Win32System::startProgram(const std::string& program, const std::string& ar
     return shellOpen(program, arguments);
 }
 
-// A sub-menu is a player of its own, with its data appended.
+// A sub-menu is a player of its own, with its data appended. Deep in a
+// folder, past what the shell takes, it is started directly.
 bool Win32System::startMenu(const std::string& menuFile)
 {
-    return fileExists(menuFile) && shellOpen(menuFile, {});
+    if (!fileExists(menuFile))
+        return false;
+    if (shellOpen(menuFile, {}))
+        return true;
+    const std::wstring program = longPath(widen(menuFile));
+    std::wstring commandLine = L"\"" + widen(menuFile) + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &process))
+        return false;
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return true;
 }
 
 void Win32System::ejectTray(const std::string& driveLetter, bool open)

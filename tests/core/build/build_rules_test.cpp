@@ -5,10 +5,33 @@
 #include "core/build/iso_image.h"
 #include "core/build/value_check.h"
 #include "model/project_layout.h"
+#include "core/build/program_icon.h"
 #include "core/ports/program_runner.h"
 
 namespace qor::test {
 namespace {
+
+// What cannot give a program its icon says why and changes nothing (a
+// program that does read back is checked under wine, on the real player).
+TEST(ProgramIcon, WhatCannotBeSetSaysWhy)
+{
+    const std::string entry("\x10\x10\0\0\1\0\x20\0\4\0\0\0\x16\0\0\0", 16);
+    const std::string ico = std::string("\0\0\1\0\1\0", 6) + entry + "ABCD";
+    const std::string notIcon = "ce n'est pas une icône Windows (.ico)";
+    const std::string noSlot = "le programme du menu n'a pas d'icône à remplacer";
+    const std::string notIcons[] = {
+        "",
+        "MY ICON",
+        std::string("\0\0\1\0\0\0", 6),                    // no image
+        std::string("\0\0\2\0\1\0", 6) + entry + "ABCD",   // a cursor
+        ico.substr(0, ico.size() - 1),                        // cut short
+    };
+    for (const std::string& bytes : notIcons)
+        EXPECT_EQ(withProgramIcon("MZ-player-bytes", bytes).problem, notIcon) << bytes.size();
+    for (const std::string& program : {std::string(), std::string("MZ-player-bytes"), std::string(0x200, 'M')})
+        EXPECT_EQ(withProgramIcon(program, ico).problem, noSlot) << program.size();
+    EXPECT_EQ(withProgramIcon("MZ-player-bytes", ico).program, "");
+}
 
 TEST(CompileDefaults, NameAndAuthorFromTheProject)
 {

@@ -11,19 +11,11 @@ namespace {
 
 const MenuPlace kPlace = MenuPlace::of("/media/cd/qor/autorun.exe", '/', "D");
 
-TEST(MenuPlace, OfAMenuFileGivesItsFolderAndTheCdRoot)
-{
-    EXPECT_EQ(kPlace.playerFolder, "/media/cd/qor/");
-    EXPECT_EQ(kPlace.cdRoot, "/media/cd/");
-    const MenuPlace windows = MenuPlace::of("E:\\qor\\autorun.exe", '\\', "E");
-    EXPECT_EQ(windows.playerFolder, "E:\\qor\\");
-    EXPECT_EQ(windows.cdRoot, "E:\\");
-}
-
 TEST(MenuPlace, PlaceholdersExpandInAnyLetterCase)
 {
     const std::pair<std::string, std::string> cases[] = {
-        {"[LECT]:\\index.html", "D:\\index.html"},
+        {"[LECT]:\\index.html", "/media/cd/index.html"},
+        {"\"[lect]:\" & \"\\x\"", "\"/media/cd\" & \"\\x\""},
         {"[lect] [Chemin]x.exe [JOINDRE]", "D /media/cd/qor/x.exe /media/cd/"},
         {"sans rien", "sans rien"},
         {"[LECT", "[LECT"},
@@ -32,26 +24,75 @@ TEST(MenuPlace, PlaceholdersExpandInAnyLetterCase)
         EXPECT_EQ(expandPlaceholders(text, kPlace), expected) << text;
 }
 
+// Wherever the CD was copied, its placeholders name the folders it is really
+// in, whether a script's text was expanded first (as menus run) or the path
+// is resolved as written.
+TEST(MenuPlace, PlaceholdersHoldInAnyFolder)
+{
+    const std::string longName(280, 'n');
+    struct Case {
+        std::string menuFile;
+        std::string drive;
+        std::string playerFolder;
+        std::string cdRoot;
+    };
+    const Case cases[] = {
+        {"E:\\qor\\autorun.exe", "E", "E:\\qor\\", "E:\\"},
+        {"E:\\autorun.exe", "E", "E:\\", "E:\\"},
+        {"C:\\Users\\Élodie\\Mon CD #2 & co\\qor\\autorun.exe", "C", "C:\\Users\\Élodie\\Mon CD #2 & co\\qor\\",
+         "C:\\Users\\Élodie\\Mon CD #2 & co\\"},
+        {"C:\\a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\qor\\autorun.exe", "C", "C:\\a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\qor\\",
+         "C:\\a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\"},
+        {"D:\\" + longName + "\\qor\\autorun.exe", "D", "D:\\" + longName + "\\qor\\", "D:\\" + longName + "\\"},
+        {"\\\\serveur\\partage\\Mon CD\\qor\\autorun.exe", "", "\\\\serveur\\partage\\Mon CD\\qor\\",
+         "\\\\serveur\\partage\\Mon CD\\"},
+        {"\\\\serveur\\partage\\autorun.exe", "", "\\\\serveur\\partage\\", "\\\\serveur\\partage\\"},
+        {"/media/cd/qor/autorun.exe", "", "/media/cd/qor/", "/media/cd/"},
+    };
+    for (const Case& c : cases) {
+        const MenuPlace place = MenuPlace::of(c.menuFile, c.menuFile[0] == '/' ? '/' : '\\', c.drive);
+        EXPECT_EQ(place.playerFolder, c.playerFolder) << c.menuFile;
+        EXPECT_EQ(place.cdRoot, c.cdRoot) << c.menuFile;
+        const std::string s(1, place.separator);
+        const std::pair<std::string, std::string> paths[] = {
+            {"[CHEMIN]b2h.bmp", c.playerFolder + "b2h.bmp"},
+            {"[CHEMIN]Sous Menu.exe", c.playerFolder + "Sous Menu.exe"},
+            {"[LECT]:\\docs\\a.txt", c.cdRoot + "docs" + s + "a.txt"},
+            {"[LECT]:\\", c.cdRoot},
+            {"[JOINDRE]index.html", c.cdRoot + "index.html"},
+        };
+        for (const auto& [path, expected] : paths) {
+            EXPECT_EQ(resolveMenuPath(path, place, place.cdRoot), expected) << c.menuFile << " " << path;
+            EXPECT_EQ(resolveMenuPath(expandPlaceholders(path, place), place, place.cdRoot), expected)
+                << c.menuFile << " " << path;
+        }
+    }
+}
+
 TEST(MenuPlace, PathsResolveUnderTheCdRootOrTheirBase)
 {
+    const MenuPlace inFolder = MenuPlace::of("E:\\copie\\qor\\autorun.exe", '\\', "E");
     struct Case {
+        const MenuPlace& place;
         std::string path;
         std::string base;
         std::string expected;
     };
     const Case cases[] = {
-        {"[LECT]:\\rep\\fich.txt", kPlace.cdRoot, "/media/cd/rep/fich.txt"},
-        {"d:/rep/fich.txt", kPlace.cdRoot, "/media/cd/rep/fich.txt"},
-        {"D:", kPlace.cdRoot, "/media/cd/"},
-        {"c:\\page.htm", kPlace.cdRoot, "c:/page.htm"},
-        {"films\\a.avi", kPlace.cdRoot, "/media/cd/films/a.avi"},
-        {"b1.bmp", kPlace.playerFolder, "/media/cd/qor/b1.bmp"},
-        {"[CHEMIN]Sous.exe", kPlace.cdRoot, "/media/cd/qor/Sous.exe"},
-        {"/etc/motd", kPlace.cdRoot, "/etc/motd"},
-        {"", kPlace.cdRoot, ""},
+        {kPlace, "d:/rep/fich.txt", kPlace.cdRoot, "/media/cd/rep/fich.txt"},
+        {kPlace, "D:", kPlace.cdRoot, "/media/cd/"},
+        {kPlace, "c:\\page.htm", kPlace.cdRoot, "c:/page.htm"},
+        {kPlace, "films\\a.avi", kPlace.cdRoot, "/media/cd/films/a.avi"},
+        {kPlace, "b1.bmp", kPlace.playerFolder, "/media/cd/qor/b1.bmp"},
+        {kPlace, "/etc/motd", kPlace.cdRoot, "/etc/motd"},
+        {kPlace, "", kPlace.cdRoot, ""},
+        {inFolder, "e:\\rep\\fich.txt", inFolder.cdRoot, "E:\\copie\\rep\\fich.txt"},
+        {inFolder, "E:\\COPIE\\rep\\fich.txt", inFolder.cdRoot, "E:\\COPIE\\rep\\fich.txt"},
+        {inFolder, "E:\\copies\\x.txt", inFolder.cdRoot, "E:\\copie\\copies\\x.txt"},
+        {inFolder, "\\\\srv\\share\\x.txt", inFolder.cdRoot, "\\\\srv\\share\\x.txt"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(resolveMenuPath(c.path, kPlace, c.base), c.expected) << c.path;
+        EXPECT_EQ(resolveMenuPath(c.path, c.place, c.base), c.expected) << c.path;
 }
 
 TEST(ShellCommand, CommandsAreReadAsTheAssistantWritesThem)
@@ -76,6 +117,14 @@ TEST(ShellCommand, CommandsAreReadAsTheAssistantWritesThem)
     };
     for (const auto& [command, expected] : cases)
         EXPECT_EQ(classifyCommand(command, kPlace, system), expected) << command;
+
+    // The sub-menu statement of a copy in a folder with a blank in its name,
+    // run as the script's text has it once expanded.
+    const MenuPlace copy = MenuPlace::of("E:\\Mon CD\\qor\\autorun.exe", '\\', "E");
+    system.files["E:\\Mon CD\\qor\\Sous Menu.exe"] = "MZ\r\n" + compiledBytes(MenuProject());
+    const ShellTarget sub{K::SubMenu, "E:\\Mon CD\\qor\\Sous Menu.exe", ""};
+    EXPECT_EQ(classifyCommand("[CHEMIN]Sous Menu.exe", copy, system), sub);
+    EXPECT_EQ(classifyCommand(expandPlaceholders("\"[CHEMIN]Sous Menu.exe\"", copy), copy, system), sub);
 }
 
 TEST(CommandLine, FileAndModeInAnyOrder)

@@ -20,12 +20,17 @@ TEST_F(PlayerTest, StartShowsTheWindowThenMusicThenStartupThenTimer)
     EXPECT_EQ(log, expected);
 }
 
+// As a "vidéo" button does; a file missing from the CD is said by the name
+// the author wrote.
 TEST_F(PlayerTest, TheStartupActionPlaysAMediaNameFromTheCdRoot)
 {
+    for (const char* file : {"/cd/videos/intro.avi", "/cd/son.mp3", "/cd/doc/lisez.pdf"})
+        system.files[file] = "x";
     const std::pair<std::string, std::string> cases[] = {
         {"videos\\intro.avi", "video /cd/videos/intro.avi"},
         {"son.mp3", "sound /cd/son.mp3"},
         {"[LECT]:\\doc\\lisez.pdf", "open /cd/doc/lisez.pdf"},
+        {"[LECT]:\\films\\absent.avi", "msgbox Fichier introuvable : [LECT]:\\films\\absent.avi"},
     };
     for (const auto& [action, expected] : cases) {
         MenuProject p;
@@ -57,6 +62,7 @@ TEST_F(PlayerTest, AClickPressesThenOnReleasePlaysTheSoundThenActsByKind)
     p.button(1).action = "MsgBox \"code\"";
     p.button(2).kind = std::string(button_kind::video);
     p.button(2).action = "films\\a.mpg";
+    system.files["/cd/films/a.mpg"] = "x";
     p.button(3).kind = std::string(button_kind::quit);
     run(p);
     player->pointerEntersButton(0);
@@ -267,6 +273,8 @@ TEST_F(PlayerTest, ActionRequestsCarryOutTheirVerb)
     ASSERT_TRUE(p.addText());
     ASSERT_TRUE(p.addText());
     run(p);
+    for (const char* file : {"/cd/v/film.avi", "/cd/musique.mp3", "/tmp/bip.wav"})
+        system.files[file] = "x";
     const std::pair<std::string, std::string> cases[] = {
         {"Action.Tag = \"[LECT]:\\v\\film.avi\" : Action.Text = \"JouerVideo\"", "video /cd/v/film.avi"},
         {"Action.Tag = \"musique.mp3\" : Action.Text = \"JouerSon\"", "sound /cd/musique.mp3"},
@@ -282,6 +290,14 @@ TEST_F(PlayerTest, ActionRequestsCarryOutTheirVerb)
         EXPECT_EQ(exec(statement), "") << statement;
         EXPECT_EQ(log.empty() ? "(nothing)" : log.back(), expected) << statement;
     }
+    // Missing media: error 53, naming the file as the script wrote it, and nothing plays.
+    for (const char* verb : {"JouerVideo", "JouerSon", "JouerSonWAV"}) {
+        log.clear();
+        exec(std::string("On Error Resume Next : Action.Tag = \"[LECT]:\\absent.avi\" : Action.Text = \"") + verb +
+             "\" : e = Err.Number & \"|\" & Err.Description");
+        EXPECT_EQ(eval("e"), "53|Fichier introuvable : [LECT]:\\absent.avi") << verb;
+        EXPECT_TRUE(log.empty()) << verb;
+    }
     EXPECT_FALSE(player->scene().texts[1].scrollBar);
     exec("Action.Tag = \"2\" : Action.Text = \"AfficheBarre\"");
     EXPECT_TRUE(player->scene().texts[1].scrollBar);
@@ -296,7 +312,7 @@ TEST_F(PlayerTest, ScriptsSeeThePlaceholdersExpanded)
     p.startupAction = "VBS:MsgBox \"[LECT]:\\ | [chemin] | [Joindre]\"";
     run(p, false);
     ASSERT_EQ(view.messages.size(), 1u);
-    EXPECT_EQ(view.messages[0].text, "D:\\ | /cd/qor/ | /cd/");
+    EXPECT_EQ(view.messages[0].text, "/cd/ | /cd/qor/ | /cd/");
     EXPECT_EQ(view.messages[0].title, "Démo");
 }
 
@@ -322,7 +338,13 @@ TEST_F(PlayerTest, TheContextMenuOffersItsThreeEntriesWhenAsked)
     run(p);
     EXPECT_EQ(player->contextMenuEntries(), (std::vector<std::string>{"Réduire", "Fermer", "A propos..."}));
     player->chooseContextEntry(0);
-    EXPECT_EQ(player->scene().window.windowState, 1);
+    EXPECT_EQ(eval("Fenetre.WindowState"), "1");
+    // Restored from the taskbar: the next script that shows the window must
+    // not minimise it again.
+    player->windowStateChanged(0);
+    EXPECT_EQ(eval("Fenetre.WindowState"), "0");
+    exec("Fenetre.Visible = True");
+    EXPECT_EQ(view.shown.window.windowState, 0);
     player->chooseContextEntry(2);
     ASSERT_EQ(view.messages.size(), 1u);
     EXPECT_EQ(view.messages[0].text, "Projet : Démo\r\nAuteur : Moi");

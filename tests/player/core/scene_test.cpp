@@ -26,6 +26,35 @@ TEST(Pixels, AnOutlineNeedsThreeDistinctPoints)
         EXPECT_TRUE(outlineInPixels(points, 15, 15).empty()) << points.size();
 }
 
+// The whole window grows with the screen's density and shrinks as a whole
+// when it would not fit: a 1024 x 768 menu at 150 % on a 1024 x 768 screen
+// (work area 1024 x 728) keeps its proportions and every button inside.
+TEST(Pixels, AWindowScalesWithTheDensityAndIsReducedAsAWholeToFit)
+{
+    struct Case {
+        double density, width, height;
+        int areaWidth, areaHeight;
+        double scale;
+    };
+    const Case cases[] = {
+        {1, 640, 480, 1024, 728, 1},
+        {1.25, 640, 480, 1024, 728, 1.25},
+        {1.5, 640, 480, 1024, 728, 1.5},
+        {2, 640, 480, 1920, 1040, 2},
+        {3, 640, 480, 1920, 1040, 1040.0 / 480},
+        {1.5, 1024, 768, 1024, 728, 728.0 / 768},
+        {1, 1024, 768, 640, 480, 0.625},
+        {1, 2000, 100, 800, 600, 0.4},
+        {0, 640, 480, 1024, 728, 1},
+        {std::numeric_limits<double>::quiet_NaN(), 640, 480, 1024, 728, 1},
+        {1, 32767, 32767, 1, 1, 1.0 / 32767},
+        {1, 640, 480, 0, 0, 1},
+    };
+    for (const Case& c : cases)
+        EXPECT_DOUBLE_EQ(windowScale(c.density, c.width, c.height, c.areaWidth, c.areaHeight), c.scale)
+            << c.density << " " << c.width << "x" << c.height << " in " << c.areaWidth << "x" << c.areaHeight;
+}
+
 TEST(Pixels, MousePointerNumbersMapToTheNearestCursor)
 {
     const std::pair<int, Cursor> cases[] = {
@@ -90,6 +119,14 @@ TEST_F(PlayerTest, HostileSizesAreBroughtBackToTheScreen)
         EXPECT_EQ(view.shown.window.width, c.shownWidth) << c.width;
         EXPECT_EQ(view.shown.window.height, c.shownHeight) << c.height;
     }
+    // A front-end that reduces the whole window keeps the designed size.
+    view.screenInfo.reducesWholeWindow = true;
+    MenuProject big;
+    big.width = 2000 * 15;
+    big.height = 1e30f;
+    run(big);
+    EXPECT_EQ(view.shown.window.width, 2000 * 15);
+    EXPECT_EQ(view.shown.window.height, kMaxPixels * 15);
 }
 
 TEST_F(PlayerTest, AFullScreenMenuCoversTheScreen)

@@ -117,6 +117,29 @@ private slots:
         QCOMPARE(shot.pixelColor(0, 0), QColor(Qt::black));   // the border
     }
 
+    // Run at 100 % and again alone with QT_SCALE_FACTOR=1.5 (CMakeLists.txt):
+    // the window keeps the designed layout at any density, the button's
+    // picture covering the same part of it as designed, within 1 %.
+    void theLayoutIsTheSameAtAnyDensity()
+    {
+        show(buttonMenu());
+        QCOMPARE(window_->size(), QSize(400, 300));
+        const QImage shot = window_->grab().toImage();
+        const double ratio = shot.width() / 400.0;
+        QCOMPARE(shot.height(), qRound(300 * ratio));
+        int first = -1;
+        int last = -1;
+        const int row = qRound((50 + 10) * ratio);
+        for (int x = 0; x < shot.width(); ++x)
+            if (shot.pixelColor(x, row).red() > 200 && shot.pixelColor(x, row).green() < 60) {
+                first = first < 0 ? x : first;
+                last = x;
+            }
+        QVERIFY2(first >= 0, "the button's picture is not in the window");
+        QVERIFY(qAbs((last - first + 1) / double(shot.width()) - 40 / 400.0) <= 0.01 * 40 / 400.0 + 1.0 / shot.width());
+        QVERIFY(qAbs(first / double(shot.width()) - 100 / 400.0) <= 1.0 / shot.width());
+    }
+
     void shapeCutsTheOutline()
     {
         MenuProject p;

@@ -1,7 +1,8 @@
 # The Windows player as it goes onto a CD: at most 2 MB, and importing only
 # DLLs that every Windows from 7 on has (msvcrt.dll, the C library of the
 # system itself, among them), so it runs with no file beside it.
-#   cmake -DPLAYER=<compil.exe> -P check_player_binary.cmake
+# TREE=win32 wants a 32-bit program (i386), TREE=win64 a 64-bit one.
+#   cmake -DPLAYER=<compil.exe> [-DTREE=win32|win64] -P check_player_binary.cmake
 cmake_minimum_required(VERSION 3.25)
 set(max_bytes 2000000)
 set(allowed kernel32.dll user32.dll gdi32.dll winmm.dll shell32.dll ole32.dll oleaut32.dll comctl32.dll
@@ -20,6 +21,31 @@ execute_process(COMMAND ${OBJDUMP} -p "${PLAYER}" OUTPUT_VARIABLE dump RESULT_VA
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "objdump cannot read ${PLAYER}")
 endif()
+set(formats win32 pei-i386 win64 pei-x86-64)
+if(DEFINED TREE)
+  list(FIND formats ${TREE} at)
+  math(EXPR at "${at} + 1")
+  list(GET formats ${at} wanted)
+  string(REGEX MATCH "file format [a-z0-9-]+" format "${dump}")
+  if(NOT format STREQUAL "file format ${wanted}")
+    message(FATAL_ERROR "${PLAYER}: ${format}, not ${wanted}")
+  endif()
+endif()
+# What Explorer, the taskbar and the loader read: an icon (and its group),
+# the version information and the manifest.
+set(wanted_resources 0x000003 ICON 0x00000e GROUP_ICON 0x000010 VERSION 0x000018 MANIFEST)
+string(REGEX MATCHALL "\n[0-9a-f]+   Entry: ID: 0x[0-9a-f]+" types "${dump}")
+list(LENGTH wanted_resources n)
+math(EXPR last "${n} - 1")
+foreach(i RANGE 0 ${last} 2)
+  list(GET wanted_resources ${i} id)
+  math(EXPR j "${i} + 1")
+  list(GET wanted_resources ${j} kind)
+  string(FIND "${types}" "ID: ${id}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "${PLAYER} has no ${kind} resource")
+  endif()
+endforeach()
 string(REGEX MATCHALL "DLL Name: [^\n]+" lines "${dump}")
 if(NOT lines)
   message(FATAL_ERROR "${PLAYER} imports nothing: not a program objdump understands")
@@ -35,4 +61,4 @@ foreach(line IN LISTS lines)
   endif()
 endforeach()
 list(JOIN names ", " text)
-message(STATUS "${size} bytes; imports ${text}")
+message(STATUS "${format}: ${size} bytes; imports ${text}")

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "core/build/program_icon.h"
 #include "model/menu_data_writer.h"
 #include "player/core/command_line.h"
 #include "player/core/executable_image.h"
@@ -80,6 +81,77 @@ TEST_F(MenuFile, AppendedMenuReadFromEveryFolder)
         ASSERT_TRUE(std::holds_alternative<MenuData>(r)) << narrow(file) << ": " << std::get<LoadFailure>(r).message;
         EXPECT_EQ(std::get<MenuData>(r).project.timerInterval, "4321");
         EXPECT_EQ(std::get<MenuData>(r).info.author, "Élodie");
+    }
+}
+
+// A .ico file of square 32-bit images of the given sizes, each one colour.
+std::string iconFile(std::initializer_list<int> sizes)
+{
+    auto le = [](std::string& s, std::uint32_t v, int bytes) {
+        for (int i = 0; i < bytes; ++i, v >>= 8)
+            s += char(v & 0xFF);
+    };
+    std::string head;
+    std::string images;
+    le(head, 0, 2);
+    le(head, 1, 2);
+    le(head, std::uint32_t(sizes.size()), 2);
+    for (const int n : sizes) {
+        std::string image;
+        for (const std::uint32_t v : {40u, std::uint32_t(n), std::uint32_t(2 * n), 1u | (32u << 16), 0u, 0u, 0u, 0u, 0u, 0u})
+            le(image, v, 4);
+        for (int i = 0; i < n * n; ++i)
+            le(image, 0xFF000000u | std::uint32_t(n * 0x010203), 4);
+        image.append(std::size_t((n + 31) / 32 * 4 * n), '\0');   // the AND mask
+        le(head, std::uint32_t(n) | std::uint32_t(n) << 8, 2);
+        le(head, 0, 2);
+        le(head, 1, 2);
+        le(head, 32, 2);
+        le(head, std::uint32_t(image.size()), 4);
+        le(head, std::uint32_t(6 + 16 * sizes.size() + images.size()), 4);
+        images += image;
+    }
+    return head + images;
+}
+
+std::string_view resource(HMODULE module, LPCWSTR type, int id)
+{
+    HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), type);
+    if (!found)
+        return {};
+    return {static_cast<const char*>(LockResource(LoadResource(module, found))), SizeofResource(module, found)};
+}
+
+// The CD's icon given to the player's copy, read back by Windows itself: the
+// group names the new images, each one is there, the system makes an icon of
+// it, and the menu appended afterwards is still found.
+TEST_F(MenuFile, TheCdIconBecomesTheProgramIcon)
+{
+    for (const std::string& ico : {iconFile({16}), iconFile({48, 32, 16}), iconFile({64, 48, 32, 24, 16})}) {
+        const ProgramIcon set = withProgramIcon(player, ico);
+        ASSERT_EQ(set.problem, "");
+        const std::string compiled = set.program + menuDataBytes(MenuProject(), {"Icône", "Moi"});
+        const std::wstring file = tempFolder() + L"qor-tests\\icone\\autorun.exe";
+        ASSERT_TRUE(writeFile(file, compiled));
+        EXPECT_TRUE(std::holds_alternative<MenuData>(loadMenu(system, narrow(file))));
+        HMODULE module = LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+        ASSERT_TRUE(module);
+        const std::string_view group = resource(module, RT_GROUP_ICON, 1);
+        ASSERT_GE(group.size(), 6u);
+        const std::size_t count = std::uint8_t(group[4]);
+        EXPECT_EQ(count, std::min<std::size_t>(3, std::uint8_t(ico[4])));
+        for (std::size_t i = 0; i < count && group.size() >= 6 + 14 * (i + 1); ++i) {
+            const int id = std::uint8_t(group[6 + 14 * i + 12]);
+            const std::size_t size = std::uint8_t(ico[6 + 16 * i + 8]) | std::uint8_t(ico[6 + 16 * i + 9]) << 8;
+            const std::size_t offset = std::uint8_t(ico[6 + 16 * i + 12]) | std::uint8_t(ico[6 + 16 * i + 13]) << 8;
+            EXPECT_EQ(resource(module, RT_ICON, id), std::string_view(ico).substr(offset, size)) << i;
+            const std::string_view bits = resource(module, RT_ICON, id);
+            HICON made = CreateIconFromResourceEx(reinterpret_cast<PBYTE>(const_cast<char*>(bits.data())),
+                                                  DWORD(bits.size()), TRUE, 0x00030000, 0, 0, 0);
+            EXPECT_TRUE(made) << i;
+            DestroyIcon(made);
+        }
+        FreeLibrary(module);
     }
 }
 

@@ -38,6 +38,47 @@ std::string writeInQor(const std::string& folder, const std::string& name, const
 
 }  // namespace
 
+namespace {
+
+std::string chunk(std::string_view id, const std::string& body)
+{
+    std::string out(id);
+    putLe(out, std::uint32_t(body.size()), 4);
+    return out + body + (body.size() % 2 ? std::string(1, '\0') : std::string());
+}
+
+std::string list(std::string_view type, const std::string& body) { return chunk("LIST", std::string(type) + body); }
+
+}  // namespace
+
+std::string solidVideo(int width, int height, int frames, std::uint32_t rgb)
+{
+    const std::string bitmap = solidBitmap(width, height, rgb);
+    const std::string pixels = bitmap.substr(54);
+    const auto frameBytes = std::uint32_t(pixels.size());
+    std::string avih;
+    for (const std::uint32_t v : {100000u, frameBytes * 10, 0u, 0x10u, std::uint32_t(frames), 0u, 1u, frameBytes,
+                                  std::uint32_t(width), std::uint32_t(height), 0u, 0u, 0u, 0u})
+        putLe(avih, v, 4);
+    std::string strh = "vidsDIB ";
+    for (const std::uint32_t v : {0u, 0u, 0u, 1u, 10u, 0u, std::uint32_t(frames), frameBytes, 0xFFFFFFFFu, 0u})
+        putLe(strh, v, 4);
+    putLe(strh, 0, 4);   // the frame rectangle: all of it
+    putLe(strh, 0, 4);
+    std::string movi;
+    std::string index;
+    for (int i = 0; i < frames; ++i) {
+        index += "00db";
+        putLe(index, 0x10, 4);
+        putLe(index, std::uint32_t(4 + movi.size()), 4);
+        putLe(index, frameBytes, 4);
+        movi += chunk("00db", pixels);
+    }
+    const std::string hdrl = list("hdrl", chunk("avih", avih) + list("strl", chunk("strh", strh) +
+                                                                          chunk("strf", bitmap.substr(14, 40))));
+    return chunk("RIFF", "AVI " + hdrl + list("movi", movi) + chunk("idx1", index));
+}
+
 std::string solidBitmap(int width, int height, std::uint32_t rgb)
 {
     const int rowBytes = (width * 3 + 3) / 4 * 4;

@@ -112,6 +112,40 @@ void moveTo(int x, int y)
     pause(300);
 }
 
+void rightClickAt(int x, int y)
+{
+    moveTo(x, y);
+    output("xdotool click 3");
+    pause(300);
+}
+
+void dragBy(int x, int y, int dx, int dy)
+{
+    moveTo(x, y);
+    output("xdotool mousedown 1");
+    pause(200);
+    for (int step = 1; step <= 4; ++step) {
+        output("xdotool mousemove " + std::to_string(x + dx * step / 4) + " " + std::to_string(y + dy * step / 4));
+        pause(100);
+    }
+    output("xdotool mouseup 1");
+    pause(300);
+}
+
+void typeText(const WindowBox& window, const std::string& text)
+{
+    output("xdotool windowfocus --sync " + window.id + " 2>/dev/null");
+    output("xdotool type '" + text + "'");
+    pause(300);
+}
+
+void pressKey(const WindowBox& window, const std::string& key)
+{
+    output("xdotool windowfocus --sync " + window.id + " 2>/dev/null");
+    output("xdotool key " + key);
+    pause(300);
+}
+
 void pressOk(const WindowBox& box)
 {
     // Without a window manager the first click may only bring the box to

@@ -36,6 +36,14 @@ std::optional<WindowBox> waitForWindow(const std::string& title, int timeoutMs);
 // Pointer and keys, as a user would give them.
 void clickAt(int x, int y);
 void moveTo(int x, int y);
+// The right button at (x, y); a drag with the left one by (dx, dy).
+void rightClickAt(int x, int y);
+void dragBy(int x, int y, int dx, int dy);
+// Text typed to the window, given the keyboard first.
+void typeText(const WindowBox& window, const std::string& text);
+// A key by its X name ("Return") to the window, given the keyboard first
+// (with no window manager, nothing else gives it).
+void pressKey(const WindowBox& window, const std::string& key);
 // The "OK" of a message box with that one button: bottom centre.
 void pressOk(const WindowBox& box);
 

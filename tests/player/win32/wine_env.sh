@@ -17,6 +17,17 @@ fail() { echo "wine cannot start: $*" >&2; exit 1; }
 # own server; the checks of one prefix never run side by side.
 fresh_server() { wineserver -k 2>/dev/null; wineserver -w 2>/dev/null; true; }
 command -v wine >/dev/null || fail "no wine on this machine (tools/install-deps.sh installs it)"
+# A 32-bit program needs wine's 32-bit half, which Debian packages apart.
+is_pe32() {
+  local at
+  at=$(od -An -tu4 -j60 -N4 "$1" 2>/dev/null | tr -d ' ') || return 1
+  [[ -n $at && $(od -An -tx2 -j$((at + 4)) -N2 "$1" 2>/dev/null | tr -d ' ') == 014c ]]
+}
+need_wine32() {
+  is_pe32 "$1" && [[ ! -x /usr/lib/wine/wine ]] &&
+    fail "$1 is a 32-bit program and this wine has no 32-bit half (wine32:i386; tools/install-deps.sh installs it)"
+  true
+}
 
 case $what in
 init)
@@ -33,11 +44,13 @@ init)
   ;;
 wine)
   [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  need_wine32 "$1"
   fresh_server
   exec wine "$@"
   ;;
 exec)
   [[ -f $prefix/system.reg ]] || fail "no wine prefix in $prefix"
+  [[ -z ${QOR_COMPIL_EXE:-} ]] || need_wine32 "$QOR_COMPIL_EXE"
   fresh_server
   exec "$@"
   ;;

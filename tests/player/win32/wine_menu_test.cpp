@@ -2,7 +2,10 @@
 // in a virtual screen, looked at through screenshots and used with the pointer.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
+#include <cstdlib>
+#include <iostream>
 
 #include "menu_maker.h"
 #include "screen.h"
@@ -27,14 +30,17 @@ MenuButton& addButton(MenuProject& p, float left, float top, const std::string& 
 }
 
 // 400 x 300 pixels on a 96-dpi screen, red, with a green and a blue button
-// (yellow under the pointer) and the second one closing the menu.
-MenuProject sampleMenu()
+// (yellow under the pointer) and the second one closing the menu; the first
+// one's script is firstAction, its hover script firstHover.
+MenuProject sampleMenu(const std::string& firstAction = "Fenetre.Caption = \"clic\"", const std::string& firstHover = "")
 {
     MenuProject p;
     p.width = 6000;
     p.height = 4500;
     p.backgroundColor = 0x000000FF;
-    addButton(p, 600, 600, "vert", button_kind::code).action = "Fenetre.Caption = \"clic\"";
+    MenuButton& first = addButton(p, 600, 600, "vert", button_kind::code);
+    first.action = firstAction;
+    first.hoverScript = firstHover;
     addButton(p, 3000, 1500, "bleu", button_kind::quit);
     return p;
 }
@@ -88,6 +94,258 @@ TEST(WineMenu, WindowHasItsSizeBackgroundAndButtons)
                       {"border", 399, 150, 0x000000}});
     moveTo(w->x + 65, w->y + 55);
     expectPixels(*w, {{"button 1 under the pointer", 64, 54, kYellow}, {"button 2", 229, 119, kBlue}});
+}
+
+// The window of that title once it has painted its first button, the
+// pointer kept off it.
+std::optional<WindowBox> paintedWindow(const std::string& title)
+{
+    moveTo(0, 0);
+    const std::optional<WindowBox> w = waitForWindow(title, kStartMs);
+    if (w)
+        expectPixels(*w, {{"button 1", 64, 54, kGreen}});
+    return w;
+}
+
+// The screen density wine gives the programs it starts from now on.
+void setDensity(int dpi)
+{
+    const std::string command = "wine reg add \"HKCU\\Control Panel\\Desktop\" /v LogPixels /t REG_DWORD /d " +
+                                std::to_string(dpi) + " /f >/dev/null 2>&1";
+    // A program just ended may still hold the registry a moment.
+    int status = -1;
+    for (int attempt = 0; attempt < 3 && status != 0; ++attempt)
+        status = std::system(command.c_str());
+    EXPECT_EQ(status, 0) << command;
+}
+
+// How far apart two 0xRRGGBB colours are.
+int distance(std::uint32_t a, std::uint32_t b)
+{
+    int d = 0;
+    for (int shift : {0, 8, 16})
+        d += std::abs(int((a >> shift) & 0xFF) - int((b >> shift) & 0xFF));
+    return d;
+}
+
+// Where a button's colour runs along the row y (window pixels) over the red
+// background: its first and last column, a pixel counting when it is nearer
+// the button's colour than the background's (the edges of a scaled picture
+// are blended).
+std::pair<int, int> runOf(const Shot& shot, const WindowBox& w, int y, std::uint32_t colour)
+{
+    int first = -1;
+    int last = -1;
+    for (int x = 1; x + 1 < w.width; ++x)
+        if (const std::uint32_t c = shot.at(w.x + x, w.y + y); distance(c, colour) < distance(c, kRed)) {
+            first = first < 0 ? x : first;
+            last = x;
+        }
+    return {first, last};
+}
+
+// The whole window scales with the screen: at each density every button's
+// picture covers the part of the window it was designed to, within 1 %, and
+// a click at the scaled place of the quit button reaches it.
+TEST(WineMenu, TheLayoutHoldsAtEveryDensity)
+{
+    struct Button {
+        const char* name;
+        int left, top, width, height;   // on the 400 x 300 design
+        std::uint32_t colour;
+    };
+    const Button buttons[] = {{"vert", 40, 40, 50, 30, kGreen}, {"bleu", 200, 100, 60, 40, kBlue}};
+    std::cout << "dpi  button  designed  measured (fraction of the window's width)\n";
+    struct Restore {
+        ~Restore() { setDensity(96); }
+    } restore;
+    for (const int dpi : {96, 120, 144, 192}) {
+        setDensity(dpi);
+        moveTo(0, 0);   // no button under the pointer
+        TempDir cd;
+        WineProgram player(makeMenu(cd.folder(), sampleMenu(), "QOR densite", sampleFiles()));
+        const std::optional<WindowBox> w = waitForWindow("QOR densite", kStartMs);
+        ASSERT_TRUE(w) << dpi;
+        const double f = dpi / 96.0;
+        EXPECT_NEAR(w->width, 400 * f, 1) << dpi;
+        EXPECT_NEAR(w->height, 300 * f, 1) << dpi;
+        const Button& last = buttons[1];
+        const int y = int((last.top + last.height / 2) * f);
+        const std::optional<Shot> shot = screenShotWhen(w->x + int((last.left + 2) * f), w->y + y, last.colour, kPaintMs);
+        ASSERT_TRUE(shot) << dpi;
+        for (const Button& b : buttons) {
+            const auto [first, end] = runOf(*shot, *w, int((b.top + b.height / 2) * f), b.colour);
+            const double designed = b.width / 400.0;
+            const double measured = (end - first + 1) / double(w->width);
+            std::cout << dpi << "  " << b.name << "  " << designed << "  " << measured << "\n";
+            EXPECT_NEAR(measured, designed, designed * 0.01) << dpi << " " << b.name;
+            EXPECT_NEAR(first / double(w->width), b.left / 400.0, 0.01 * b.left / 400.0) << dpi << " " << b.name;
+        }
+        clickAt(w->x + int((last.left + last.width / 2) * f), w->y + y);
+        EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << dpi << ": the quit button was not reached";
+    }
+}
+
+// A menu larger than the screen (1100 x 800 on 1024 x 768) is reduced as a
+// whole: all of it on the screen, its quit button in the bottom corner
+// reachable where the reduction put it.
+TEST(WineMenu, AMenuLargerThanTheScreenIsReducedAsAWhole)
+{
+    MenuProject p;
+    p.width = 1100 * 15;
+    p.height = 800 * 15;
+    p.backgroundColor = 0x000000FF;
+    addButton(p, 1000 * 15, 700 * 15, "bleu", button_kind::quit);
+    TempDir cd;
+    moveTo(0, 0);
+    WineProgram player(makeMenu(cd.folder(), p, "QOR grand", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR grand", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    const double s = std::min(1024 / 1100.0, 768 / 800.0);
+    EXPECT_NEAR(w->width, 1100 * s, 1);
+    EXPECT_NEAR(w->height, 800 * s, 1);
+    EXPECT_GE(w->x, 0);
+    EXPECT_GE(w->y, 0);
+    EXPECT_LE(w->x + w->width, 1024);
+    EXPECT_LE(w->y + w->height, 768);
+    const int x = int(1030 * s);
+    const int y = int(720 * s);
+    expectPixels(*w, {{"the quit button", x, y, kBlue}});
+    clickAt(w->x + x, w->y + y);
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "the quit button was not reached";
+}
+
+// A button loads a picture and opens a sub-menu through "[CHEMIN]", from a
+// copy of the CD in cd/name.
+void showSubMenuFrom(const std::string& name)
+{
+    TempDir cd;
+    const std::string folder = cd.folder() + name;
+    const MenuProject p = sampleMenu("Set image = LoadPicture(\"[CHEMIN]bleu_n.bmp\")\r\n"
+                                     "Set exe_f = CreateObject(\"WScript.Shell\")\r\n"
+                                     "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
+    WineProgram player(makeMenu(folder, p, "QOR dossier", sampleFiles()));
+    makeMenu(folder, sampleMenu(), "QOR sous menu", sampleFiles(), "Sous Menu.exe");
+    const std::optional<WindowBox> w = paintedWindow("QOR dossier");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    clickAt(w->x + 64, w->y + 54);
+    moveTo(0, 0);   // off the sub-menu's buttons, which open over these
+    const std::optional<WindowBox> sub = waitForWindow("QOR sous menu", kStartMs);
+    EXPECT_FALSE(waitForWindow("Erreur !", 1000)) << "the button's script failed";
+    ASSERT_TRUE(sub) << "the sub-menu never showed";
+    expectPixels(*sub, {{"the sub-menu's button 1", 64, 54, kGreen}});
+    clickAt(sub->x + 229, sub->y + 119);   // its quit button
+}
+
+// A copy of the CD in a folder whose name has blanks, an accent, "#" and
+// "&", then deep past 260 characters: a button loads a picture and opens a
+// sub-menu through "[CHEMIN]".
+TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
+{
+    std::string deep = "/Mon CD #2 & \xC3\xA9t\xC3\xA9";
+    for (int level = 0; level < 5; ++level)
+        deep += "/un dossier aux noms longs, tr\xC3\xA8s longs, num\xC3\xA9ro " + std::to_string(level);
+    for (const std::string& name : {std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9"), deep}) {
+        SCOPED_TRACE(name);
+        showSubMenuFrom(name);
+    }
+}
+
+TEST(WineMenu, ASecondCopyOfTheSameMenuLeavesTheFirstAlone)
+{
+    TempDir cd;
+    const std::string exe = makeMenu(cd.folder(), sampleMenu(), "QOR une fois", sampleFiles());
+    WineProgram first(exe);
+    const std::optional<WindowBox> w = waitForWindow("QOR une fois", kStartMs);
+    ASSERT_TRUE(w) << "the menu window never showed";
+    WineProgram second(exe);
+    EXPECT_EQ(second.waitExit(kStartMs), std::optional<int>(0)) << "the second copy stayed";
+    EXPECT_EQ(first.waitExit(500), std::nullopt) << "the first copy ended";
+    clickAt(w->x + 229, w->y + 119);
+    EXPECT_EQ(first.waitExit(10000), std::optional<int>(0)) << "the first copy no longer answers";
+}
+
+// A video plays in a window centred over the menu, which closes at its end.
+TEST(WineMenu, AVideoPlaysOverTheMenuAndItsWindowCloses)
+{
+    std::map<std::string, std::string> files = sampleFiles();
+    // White: its three bytes alike, it reads the same whatever order wine's
+    // video window takes them in.
+    constexpr std::uint32_t kWhite = 0xFFFFFF;
+    files["film.avi"] = solidVideo(64, 48, 20, kWhite);
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Action.Tag = \"[CHEMIN]film.avi\" : Action.Text = \"JouerVideo\""),
+                                "QOR video", files));
+    const std::optional<WindowBox> w = paintedWindow("QOR video");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    clickAt(w->x + 64, w->y + 54);
+    moveTo(0, 0);
+    const int cx = w->x + w->width / 2;
+    const int cy = w->y + w->height / 2;
+    const std::optional<Shot> playing = screenShotWhen(cx, cy, kWhite, kPaintMs);
+    ASSERT_TRUE(playing);
+    EXPECT_EQ(playing->at(cx, cy), kWhite) << "no video over the menu's centre";
+    const std::optional<Shot> after = screenShotWhen(cx, cy, kRed, 10000);
+    ASSERT_TRUE(after);
+    EXPECT_EQ(after->at(cx, cy), kRed) << "the video's window stayed after its end";
+}
+
+// A hover script's message closed with Enter: the next click on that button
+// is a whole click, its script runs.
+TEST(WineMenu, TheClickAfterAHoverMessageClosedWithEnterRunsItsScript)
+{
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = \"clic\"", "MsgBox \"survol\", 0, \"QOR survol\""),
+                                "QOR survol menu", sampleFiles()));
+    const std::optional<WindowBox> w = paintedWindow("QOR survol menu");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    moveTo(w->x + 64, w->y + 54);
+    const std::optional<WindowBox> box = waitForWindow("QOR survol", kStartMs);
+    ASSERT_TRUE(box) << "the hover message never showed";
+    pressKey(*box, "Return");
+    bool closed = false;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (!closed && std::chrono::steady_clock::now() < end)
+        closed = !waitForWindow("QOR survol", 100);
+    ASSERT_TRUE(closed) << "Enter did not close the hover message";
+    clickAt(w->x + 64, w->y + 54);
+    EXPECT_TRUE(waitForWindow("clic", 5000)) << "the click's script did not run";
+}
+
+// The right-click menu's "Fermer" (its second entry) ends the menu.
+TEST(WineMenu, TheContextMenuClosesTheMenu)
+{
+    MenuProject p = sampleMenu();
+    p.contextMenu = true;
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), p, "QOR contexte", sampleFiles()));
+    const std::optional<WindowBox> w = paintedWindow("QOR contexte");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    rightClickAt(w->x + 20, w->y + 250);
+    pressKey(*w, "Down Down Return");
+    EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "Fermer did not end the menu";
+}
+
+// An InputBox's answer reaches the script; the background drags the window.
+TEST(WineMenu, AnInputBoxAnswersAndTheWindowDrags)
+{
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = InputBox(\"Nom ?\", \"QOR question\")"),
+                                "QOR saisie", sampleFiles()));
+    const std::optional<WindowBox> w = paintedWindow("QOR saisie");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    clickAt(w->x + 64, w->y + 54);
+    const std::optional<WindowBox> box = waitForWindow("QOR question", kStartMs);
+    ASSERT_TRUE(box) << "the input box never showed";
+    typeText(*box, "Paul");
+    pressKey(*box, "Return");
+    const std::optional<WindowBox> answered = waitForWindow("Paul", 5000);
+    ASSERT_TRUE(answered) << "the answer did not reach the script";
+    dragBy(answered->x + 20, answered->y + 250, 60, 40);
+    const std::optional<WindowBox> moved = waitForWindow("Paul", 5000);
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(moved->x, answered->x + 60);
+    EXPECT_EQ(moved->y, answered->y + 40);
 }
 
 TEST(WineMenu, OutlineCutsTheWindow)
