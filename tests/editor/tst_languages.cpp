@@ -67,16 +67,20 @@ bool keptAsIs(const QString& text)
     static const QStringList same = {
         "QOR", "Stop", "Source", "&Source", "Options", "&Options", "?", "&?", "Langue/Language", "Français", "English",
         "X=0000", "Y=0000", "&F.A.Q.", "Contact", "OK", "X", "Type", "Function", "Sub", "Private", "Public",
-        "Assistant", "Rectangle", "Oval", "Y", "ms", "x", "Zoom", "Email", "E-mail", "Web", "Code", "Menu", "Box",
-        // data: the default icon marker, the default sub-menu name, element kinds in the selector
-        "(Icone par défaut)", "SousMenu1", "Mon CD", "menu"};
+        "Assistant", "Rectangle", "Oval", "Y", "ms", "Visible", "Internet", "x", "Zoom", "Email", "E-mail", "Web",
+        "Code", "Menu", "Box",
+        // Kept French: the default icon marker (a value of the project file),
+        // the default sub-menu name, the element selector's entries (read back
+        // by the panel) and the project's name.
+        "(Icone par défaut)", "(Icône par défaut)", "SousMenu1", "menu", "Feuille de travail"};
+    static const QRegularExpression element(QStringLiteral("^(Bouton \\d+ \\(.+\\)|Texte \\d+)$"));
     bool letters = false;
     for (QChar c : text)
         letters = letters || c.isLetter();
     // Paths and file names the user chose.
     static const QRegularExpression fileName(QStringLiteral("^[^ ]+\\.[a-z]{3,4}$"));
     return !letters || same.contains(text) || text.startsWith("QOR v") || text.startsWith(QChar('/')) ||
-           text.startsWith("<root>") || fileName.match(text).hasMatch();
+           text.startsWith("<root>") || fileName.match(text).hasMatch() || element.match(text).hasMatch();
 }
 
 // Every text a person can read on a window, keyed by where it shows: the
@@ -316,6 +320,7 @@ class TestLanguages : public QObject {
 private slots:
     void nothingReadsFrenchInEnglish();
     void theMainWindowFillsThePhraseList();
+    void aBrokenPackIsReportedAndTheRestStaysFrench_data();
     void aBrokenPackIsReportedAndTheRestStaysFrench();
     void appearancesColourTheWindowsThatTakeThemOnLoad();
     void aboutWindowScrollsPausesAndOpensLinks();
@@ -352,34 +357,91 @@ void TestLanguages::theMainWindowFillsThePhraseList()
     QCOMPARE(english.state.phrases.text(43, "Langue modifiée, veuillez redémarrer QOR."),
              std::string("Language changed, please restart QOR."));
     QCOMPARE(english.state.phrases.text(0, "x"), std::string("Maximum number of buttons reached !!!"));
-    // Every numbered phrase is there.
-    QVERIFY(english.state.phrases.text(44, "beyond") == "beyond");
+    // Every numbered phrase is there, the run-time texts' too.
+    QVERIFY(english.state.phrases.text(80, "beyond") == "beyond");
     QVERIFY(english.state.phrases.text(38, "x") != "x");
+    QVERIFY(english.state.phrases.text(79, "x") != "x");
 }
 
+void TestLanguages::aBrokenPackIsReportedAndTheRestStaysFrench_data()
+{
+    QTest::addColumn<QString>("pack");
+    QTest::addColumn<QString>("form1");     // the toolbox's script; "-" for none
+    QTest::addColumn<int>("phrases");       // how many of the English phrases the pack has
+    QTest::addColumn<QString>("failure");   // the title of the one message, "" for none
+    QTest::addColumn<QString>("toolbox");   // the toolbox's title then
+    QTest::addColumn<QString>("noRecent");  // the recent files' placeholder then
+    const QString english = "Form1.Caption = \"Objects\"\r\n";
+    QTest::newRow("missing script") << "Broken"
+                                    << "-" << 80 << "Langue/Language 0"
+                                    << "Objets"
+                                    << "Aucun fichier récent";
+    // Compiled whole before it runs: none of it took effect.
+    QTest::newRow("script that does not compile")
+        << "Broken" << english + "'\r\n'\r\n'\r\n'\r\n'\r\nCommand1.Caption = )\r\n"
+        << 80 << "Langue/Language 7"
+        << "Objets"
+        << "Aucun fichier récent";
+    // Stops at the control: the lines before it have taken effect.
+    QTest::newRow("control that does not exist") << "Broken" << english + "Command99.Caption = \"None\"\r\n"
+                                                 << 80 << "Langue/Language 2"
+                                                 << "Objects"
+                                                 << "Aucun fichier récent";
+    QTest::newRow("phrase list too short") << "Short" << english << 44 << ""
+                                           << "Objects"
+                                           << "Aucun fichier récent";
+    QTest::newRow("folder with accents and spaces") << "Anglais à moi" << english << 80 << ""
+                                                    << "Objects"
+                                                    << "No recent files";
+}
+
+// The main window loads first here, so the phrase list is filled (or the
+// run gone back to French) before the toolbox loads.
 void TestLanguages::aBrokenPackIsReportedAndTheRestStaysFrench()
 {
+    QFETCH(QString, pack);
+    QFETCH(QString, form1);
+    QFETCH(int, phrases);
+    QFETCH(QString, failure);
+    QFETCH(QString, toolbox);
+    QFETCH(QString, noRecent);
     QTemporaryDir dir;
     const std::string folder = dir.path().toStdString() + "/";
-    std::filesystem::create_directories(folder + "langues/Broken");
-    test::Session::write(folder + "langues/Broken/Form1.lge",
-                         "Form1.Caption = \"Objects\"\r\n'\r\n'\r\n'\r\n'\r\n'\r\nCommand1.Caption = )\r\n");
-    test::Session::write(folder + "langues/Broken/Form3.lge", "Form3.Caption = \"Worksheet\"\r\n");
-    LanguageRun broken("Broken", folder);
-    ToolboxWindow toolbox(kScreen, broken.hooks);
-    QCOMPARE(int(broken.dialogs.messages.size()), 1);
-    QCOMPARE(broken.dialogs.messages[0].title, std::string("Langue/Language 7"));
-    QCOMPARE(broken.dialogs.messages[0].icon, MessageIcon::Critical);
-    // A script is compiled whole before it runs: none of it took effect.
-    QCOMPARE(toolbox.windowTitle(), QStringLiteral("Objets"));
-    QVERIFY(broken.state.interfaceLanguage.empty());
-    WorksheetWindow sheet(kScreen, broken.hooks);
-    QCOMPARE(sheet.windowTitle(), QStringLiteral("Feuille de travail"));
-    // A missing script is reported once, the same way.
-    LanguageRun missing("Broken", folder);
-    MousePositionWindow mouse(missing.hooks);
-    QCOMPARE(int(missing.dialogs.messages.size()), 1);
-    QCOMPARE(missing.dialogs.messages[0].title, std::string("Langue/Language 0"));
+    const std::string packFolder = folder + "langues/" + pack.toStdString() + "/";
+    std::filesystem::create_directories(packFolder);
+    const std::string shipped = shippedProgramFolder() + "langues/English/";
+    std::filesystem::copy_file(shipped + "Form2.lge", packFolder + "Form2.lge");
+    // The first `phrases` phrases of the English list.
+    std::string list;
+    for (const QString& line : QString::fromStdString(test::Session::read(shipped + "phrases.lge")).split('\n'))
+        if (!line.startsWith("Liste.AddItem") || phrases-- > 0)
+            list += line.toStdString() + "\r\n";
+    test::Session::write(packFolder + "phrases.lge", list);
+    if (form1 != "-")
+        test::Session::write(packFolder + "Form1.lge", form1.toStdString());
+
+    LanguageRun run(pack.toStdString(), folder);
+    MainWindow main(kScreen, run.hooks);
+    ToolboxWindow box(kScreen, run.hooks);
+    // Texts set from here on follow what the run speaks now.
+    main.setRecentFiles({});
+    QStringList titles;
+    for (const Message& m : run.dialogs.messages) {
+        titles << QString::fromStdString(m.title);
+        QCOMPARE(m.icon, MessageIcon::Critical);
+    }
+    QCOMPARE(titles, failure.isEmpty() ? QStringList() : QStringList{failure});
+    QCOMPARE(box.windowTitle(), toolbox);
+    QCOMPARE(run.state.interfaceLanguage.empty(), !failure.isEmpty());
+    QStringList recent;
+    for (QAction* a : main.findChildren<QAction*>(QStringLiteral("fichrecent_mnu")))
+        if (!a->associatedObjects().isEmpty())
+            recent << a->text();
+    QCOMPARE(recent, QStringList{noRecent});
+    // Every command keeps a caption.
+    for (QAbstractButton* b : box.findChildren<QAbstractButton*>())
+        QVERIFY2(!b->text().isEmpty() || !b->icon().isNull() || b->objectName().startsWith("Check"),
+                 qPrintable(b->objectName()));
 }
 
 void TestLanguages::appearancesColourTheWindowsThatTakeThemOnLoad()

@@ -40,23 +40,24 @@ void WindowPanel::build()
     row += 2;
     fullScreen_ = addWrappedBox(*grid, row++, QStringLiteral("Plein écran"), QStringLiteral("Check_plein"));
     auto* size = rowAt(*grid, row++);
-    size->addWidget(new QLabel(QStringLiteral("Taille :"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("Taille :"), QStringLiteral("Label_taille")));
     width_ = named(new QLineEdit(this), "Text_largeur");
     height_ = named(new QLineEdit(this), "Text_hauteur");
     sizeOk_ = makeSmallCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille"));
     size->addWidget(width_);
-    size->addWidget(new QLabel(QStringLiteral("x"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("x"), QStringLiteral("Label_fois")));
     size->addWidget(height_);
     size->addWidget(sizeOk_);
     fit_ = makeCommand(this, QStringLiteral("Ajuster à l'image de fond"), QStringLiteral("Command_ajuster"));
     grid->addWidget(fit_, row++, 0, 1, 3);
     auto* zoom = rowAt(*grid, row++);
-    zoom->addWidget(makeCaption(this, QStringLiteral("Zoom (en gardant les proportions) :")), 1);
+    zoom->addWidget(
+        makeCaption(this, QStringLiteral("Zoom (en gardant les proportions) :"), QStringLiteral("Label_zoom")), 1);
     zoom->addWidget(makeSmallCommand(this, QStringLiteral("-"), QStringLiteral("Command_zoom_moins")));
     zoom->addWidget(makeSmallCommand(this, QStringLiteral("+"), QStringLiteral("Command_zoom_plus")));
     border_ = addWrappedBox(*grid, row++, QStringLiteral("Contours"), QStringLiteral("Check_contours"));
     auto* colour = rowAt(*grid, row++);
-    colour->addWidget(new QLabel(QStringLiteral("Couleur de fond :"), this));
+    colour->addWidget(makeLabel(this, QStringLiteral("Couleur de fond :"), QStringLiteral("Label_couleur")));
     colour_ = makeSwatch(this, QStringLiteral("Picture_couleur"));
     colour->addWidget(colour_);
     colour->addStretch();
@@ -70,25 +71,30 @@ void WindowPanel::build()
     timerGroup_ = named(new QGroupBox(this), "Frame_minuteur");
     auto* timerGrid = new QGridLayout(timerGroup_);
     auto* every = new QHBoxLayout;
-    every->addWidget(new QLabel(QStringLiteral("Toutes les"), timerGroup_));
+    every->addWidget(makeLabel(timerGroup_, QStringLiteral("Toutes les"), QStringLiteral("Label_toutes_les")));
     interval_ = named(new QLineEdit(timerGroup_), "Text_intervalle");
     every->addWidget(interval_);
-    every->addWidget(new QLabel(QStringLiteral("ms"), timerGroup_));
+    every->addWidget(makeLabel(timerGroup_, QStringLiteral("ms"), QStringLiteral("Label_ms")));
     timerGrid->addLayout(every, 0, 0, 1, 2);
-    timerGrid->addWidget(makeCaption(timerGroup_, QStringLiteral("exécuter ce code VBS :")), 1, 0, 1, 2);
+    timerGrid->addWidget(
+        makeCaption(timerGroup_, QStringLiteral("exécuter ce code VBS :"), QStringLiteral("Label_code_minuteur")), 1, 0,
+        1, 2);
     timerGrid->addWidget(makeSmallCommand(timerGroup_, QStringLiteral("&Modif."), QStringLiteral("Command_minuteur")), 2,
                          1);
     grid->addWidget(timerGroup_, row++, 0, 1, 3);
     contextMenu_ = addWrappedBox(*grid, row++, QStringLiteral("Menu contextuel à l'exécution"), QStringLiteral("Check_menu"));
     auto* global = rowAt(*grid, row++);
-    global->addWidget(makeCaption(this, QStringLiteral("Déclarations VBS globales :")), 1);
+    global->addWidget(makeCaption(this, QStringLiteral("Déclarations VBS globales :"), QStringLiteral("Label_global")),
+                      1);
     global->addWidget(makeSmallCommand(this, QStringLiteral("&Modif."), QStringLiteral("Command_global")));
     global->addWidget(makeSmallCommand(this, QStringLiteral("[?]"), QStringLiteral("Command_aide_global")));
     auto* hover = rowAt(*grid, row++);
-    hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
+    hover->addWidget(makeLabel(this, QStringLiteral("Actions au survol :"), QStringLiteral("Label_survol_fenetre")));
     hover->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_fenetre")));
     hover->addStretch();
-    grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :")), row++, 0, 1, 3);
+    grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :"),
+                                QStringLiteral("Label_action_demarrage")),
+                    row++, 0, 1, 3);
     startup_ = named(new QComboBox(this), "Combo_demarrage");
     startup_->addItems({QStringLiteral("Rien"), QStringLiteral("Lancer un fichier multimédia"),
                         QStringLiteral("Exécuter du code VBS")});

@@ -23,6 +23,12 @@ void LiveWindowHooks::translate(QWidget& window)
         dialogs_->message(*failed);
 }
 
+QString LiveWindowHooks::phrase(int number, const QString& french) const
+{
+    // Phrases keep the scripts' CR LF; the windows show "\n".
+    return state_ ? toQtLines(state_->phrases.text(number, fromQtLines(french))) : french;
+}
+
 void LiveWindowHooks::applyAppearance(QWidget& window)
 {
     if (!state_)

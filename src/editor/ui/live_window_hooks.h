@@ -19,6 +19,7 @@ public:
 
     void translate(QWidget& window) override;
     void applyAppearance(QWidget& window) override;
+    QString phrase(int number, const QString& french) const override;
 
 private:
     AppState* state_ = nullptr;
