@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QRegularExpression>
@@ -36,6 +37,7 @@
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/toolbox_window.h"
 #include "editor/designer/worksheet_window.h"
+#include "editor/platform/qt_dialog_language.h"
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
 #include "editor/project/file_info_window.h"
@@ -322,6 +324,7 @@ private slots:
     void theMainWindowFillsThePhraseList();
     void aBrokenPackIsReportedAndTheRestStaysFrench_data();
     void aBrokenPackIsReportedAndTheRestStaysFrench();
+    void qtDialogsFollowTheInterfaceLanguage();
     void appearancesColourTheWindowsThatTakeThemOnLoad();
     void aboutWindowScrollsPausesAndOpensLinks();
     void theAboutCommandOpensTheCredits();
@@ -442,6 +445,32 @@ void TestLanguages::aBrokenPackIsReportedAndTheRestStaysFrench()
     for (QAbstractButton* b : box.findChildren<QAbstractButton*>())
         QVERIFY2(!b->text().isEmpty() || !b->icon().isNull() || b->objectName().startsWith("Check"),
                  qPrintable(b->objectName()));
+}
+
+void TestLanguages::qtDialogsFollowTheInterfaceLanguage()
+{
+    auto buttons = [] {
+        QMessageBox box;
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        QStringList out;
+        for (auto which : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel})
+            out << box.button(which)->text().remove('&');
+        return out;
+    };
+    QtDialogLanguage language;
+    language.follow("English");
+    QCOMPARE(buttons(), (QStringList{"Yes", "No", "Cancel"}));
+    language.follow("");
+    if (!language.french())
+        QSKIP("Qt's French translations (qt6-translations-l10n) are not installed");
+    QCOMPARE(buttons(), (QStringList{"Oui", "Non", "Annuler"}));
+    // A pack that fails takes Qt's dialogs back to French with the rest.
+    language.follow("English");
+    QTemporaryDir empty;
+    LanguageRun broken("Missing", empty.path().toStdString() + "/");
+    broken.hooks.languageDropped = [&language] { language.follow(""); };
+    ToolboxWindow toolbox(kScreen, broken.hooks);
+    QCOMPARE(buttons(), (QStringList{"Oui", "Non", "Annuler"}));
 }
 
 void TestLanguages::appearancesColourTheWindowsThatTakeThemOnLoad()

@@ -19,8 +19,11 @@ void LiveWindowHooks::translate(QWidget& window)
 {
     if (!translator_)
         return;
-    if (auto failed = translator_->translate(fromQt(window.objectName()), windowNode(window)))
+    if (auto failed = translator_->translate(fromQt(window.objectName()), windowNode(window))) {
+        if (languageDropped)
+            languageDropped();
         dialogs_->message(*failed);
+    }
 }
 
 QString LiveWindowHooks::phrase(int number, const QString& french) const
