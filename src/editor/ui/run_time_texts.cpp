@@ -2,10 +2,8 @@
 
 #include "editor/ui/window_hooks.h"
 
-namespace qor
-{
-namespace
-{
+namespace qor {
+namespace {
 
 // A whole text and its phrase.
 struct WholeText {

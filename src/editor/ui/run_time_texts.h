@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace qor
-{
+namespace qor {
 
 class WindowHooks;
 
