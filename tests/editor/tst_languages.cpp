@@ -71,18 +71,15 @@ bool keptAsIs(const QString& text)
         "X=0000", "Y=0000", "&F.A.Q.", "Contact", "OK", "X", "Type", "Function", "Sub", "Private", "Public",
         "Assistant", "Rectangle", "Oval", "Y", "ms", "Visible", "Internet", "x", "Zoom", "Email", "E-mail", "Web",
         "Code", "Menu", "Box",
-        // Kept French: the default icon marker (a value of the project file),
-        // the default sub-menu name, the element selector's entries (read back
-        // by the panel) and the project's name.
-        "(Icone par défaut)", "(Icône par défaut)", "SousMenu1", "menu", "Feuille de travail"};
-    static const QRegularExpression element(QStringLiteral("^(Bouton \\d+ \\(.+\\)|Texte \\d+)$"));
+        // Kept French: the default sub-menu name (a file name) and the project's name.
+        "SousMenu1", "menu"};
     bool letters = false;
     for (QChar c : text)
         letters = letters || c.isLetter();
     // Paths and file names the user chose.
     static const QRegularExpression fileName(QStringLiteral("^[^ ]+\\.[a-z]{3,4}$"));
     return !letters || same.contains(text) || text.startsWith("QOR v") || text.startsWith(QChar('/')) ||
-           text.startsWith("<root>") || fileName.match(text).hasMatch() || element.match(text).hasMatch();
+           text.startsWith("<root>") || fileName.match(text).hasMatch();
 }
 
 // Every text a person can read on a window, keyed by where it shows: the
@@ -361,9 +358,9 @@ void TestLanguages::theMainWindowFillsThePhraseList()
              std::string("Language changed, please restart QOR."));
     QCOMPARE(english.state.phrases.text(0, "x"), std::string("Maximum number of buttons reached !!!"));
     // Every numbered phrase is there, the run-time texts' too.
-    QVERIFY(english.state.phrases.text(80, "beyond") == "beyond");
+    QVERIFY(english.state.phrases.text(85, "beyond") == "beyond");
     QVERIFY(english.state.phrases.text(38, "x") != "x");
-    QVERIFY(english.state.phrases.text(79, "x") != "x");
+    QVERIFY(english.state.phrases.text(84, "x") != "x");
 }
 
 void TestLanguages::aBrokenPackIsReportedAndTheRestStaysFrench_data()
@@ -376,24 +373,24 @@ void TestLanguages::aBrokenPackIsReportedAndTheRestStaysFrench_data()
     QTest::addColumn<QString>("noRecent");  // the recent files' placeholder then
     const QString english = "Form1.Caption = \"Objects\"\r\n";
     QTest::newRow("missing script") << "Broken"
-                                    << "-" << 80 << "Langue/Language 0"
+                                    << "-" << 200 << "Langue/Language 0"
                                     << "Objets"
                                     << "Aucun fichier récent";
     // Compiled whole before it runs: none of it took effect.
     QTest::newRow("script that does not compile")
         << "Broken" << english + "'\r\n'\r\n'\r\n'\r\n'\r\nCommand1.Caption = )\r\n"
-        << 80 << "Langue/Language 7"
+        << 200 << "Langue/Language 7"
         << "Objets"
         << "Aucun fichier récent";
     // Stops at the control: the lines before it have taken effect.
     QTest::newRow("control that does not exist") << "Broken" << english + "Command99.Caption = \"None\"\r\n"
-                                                 << 80 << "Langue/Language 2"
+                                                 << 200 << "Langue/Language 2"
                                                  << "Objects"
                                                  << "Aucun fichier récent";
     QTest::newRow("phrase list too short") << "Short" << english << 44 << ""
                                            << "Objects"
                                            << "Aucun fichier récent";
-    QTest::newRow("folder with accents and spaces") << "Anglais à moi" << english << 80 << ""
+    QTest::newRow("folder with accents and spaces") << "Anglais à moi" << english << 200 << ""
                                                     << "Objects"
                                                     << "No recent files";
 }

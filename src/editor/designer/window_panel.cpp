@@ -9,6 +9,7 @@
 
 #include "editor/platform/qt_text.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -24,7 +25,7 @@ QHBoxLayout* rowAt(QGridLayout& grid, int row)
 
 }  // namespace
 
-WindowPanel::WindowPanel(QWidget* parent) : QWidget(parent)
+WindowPanel::WindowPanel(QWidget* parent, const WindowHooks& hooks) : QWidget(parent), hooks_(hooks)
 {
     named(this, "Panneau_fenetre");
     build();
@@ -152,7 +153,9 @@ void WindowPanel::showProject(const MenuProject& p)
     border_->setChecked(p.border);
     showSwatchColour(*colour_, p.backgroundColor);
     music_.field->setText(toQt(p.backgroundMusic));
-    icon_.field->setText(toQt(p.icon));
+    // The default icon marker reads in the interface language; any text in
+    // parentheses is the marker, so the field means the same either way.
+    icon_.field->setText(inInterfaceLanguage(hooks_, toQt(p.icon)));
     handCursor_->setChecked(p.handCursor);
     timer_->setChecked(p.timerEnabled);
     timerGroup_->setEnabled(p.timerEnabled);

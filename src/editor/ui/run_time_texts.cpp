@@ -5,13 +5,16 @@
 namespace qor {
 namespace {
 
-// A whole text and its phrase.
+// A whole text and its phrase (shown in parentheses when the French text is).
 struct WholeText {
     const char* french;
     int phrase;
 };
 
 constexpr WholeText kWholeTexts[] = {
+    {"Feuille de travail", 39},
+    {"(Icône par défaut)", 24},
+    {"(Icone par défaut)", 24},
     {"Aucun fichier récent", 44},
     {"Aucun plugin installé", 45},
     {"Procédures", 46},
@@ -52,6 +55,10 @@ struct TextAroundValue {
 };
 
 constexpr TextAroundValue kTextsAroundValue[] = {
+    {"Bouton ", 80, " (code)", 82},
+    {"Bouton ", 80, " (vidéo)", 83},
+    {"Bouton ", 80, " (quitter)", 84},
+    {"Texte ", 81, "", -1},
     {"Code VBS sur bouton ", 62, "", -1},
     {"Actions au survol du bouton ", 63, "", -1},
     {"Copie de ", 67, "...", 68},
@@ -64,9 +71,14 @@ constexpr TextAroundValue kTextsAroundValue[] = {
 
 QString inInterfaceLanguage(const WindowHooks& hooks, const QString& french)
 {
-    for (const WholeText& t : kWholeTexts)
-        if (french == QString::fromUtf8(t.french))
+    for (const WholeText& t : kWholeTexts) {
+        if (french != QString::fromUtf8(t.french))
+            continue;
+        if (!french.startsWith('('))
             return hooks.phrase(t.phrase, french);
+        const QString inside = french.mid(1, french.size() - 2);
+        return '(' + hooks.phrase(t.phrase, inside) + ')';
+    }
     for (const TextAroundValue& t : kTextsAroundValue) {
         const QString before = QString::fromUtf8(t.before), after = QString::fromUtf8(t.after);
         if (french.size() < before.size() + after.size() || !french.startsWith(before) || !french.endsWith(after))
