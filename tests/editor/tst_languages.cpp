@@ -24,6 +24,7 @@
 #include "core/app/user_settings.h"
 #include "core/designer/designer.h"
 #include "core/scripting/script_slots.h"
+#include "core/ui/menu_tree.h"
 #include "core/build/compile_request.h"
 #include "editor/shape/shape_panel.h"
 #include "editor/shape/shape_surface.h"
@@ -356,7 +357,9 @@ void TestLanguages::theMainWindowFillsThePhraseList()
     QVERIFY(english.state.phrases.languageActive());
     QCOMPARE(english.state.phrases.text(43, "Langue modifiée, veuillez redémarrer QOR."),
              std::string("Language changed, please restart QOR."));
-    QCOMPARE(english.state.phrases.text(0, "x"), std::string("Maximum number of buttons reached !!!"));
+    QCOMPARE(english.state.phrases.text(0, "x"), std::string("You have reached the maximum number of buttons."));
+    // Dialogs titled with a command's caption take the English one.
+    QCOMPARE(commandCaption(CommandId::Open), std::string("&Open"));
     // Every numbered phrase is there, the run-time texts' too.
     QVERIFY(english.state.phrases.text(85, "beyond") == "beyond");
     QVERIFY(english.state.phrases.text(38, "x") != "x");

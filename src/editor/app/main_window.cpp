@@ -73,10 +73,19 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     setLocalTitleHandling(true);
 
     runLoadHooks(*this, hooks);
+    // Dialogs titled with a command's caption take it as the menu shows it.
+    std::map<CommandId, std::string> shown;
+    for (const auto& [id, action] : actions_)
+        if (id != CommandId::OpenRecent && id != CommandId::RunPlugin)
+            shown.emplace(id, fromQt(action->text()));
+    showCommandCaptions(std::move(shown));
     titleReset_.start();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    showCommandCaptions({});
+}
 
 void MainWindow::dispatch(CommandId id, int position)
 {
