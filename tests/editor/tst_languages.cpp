@@ -72,8 +72,9 @@ bool keptAsIs(const QString& text)
         "X=0000", "Y=0000", "&F.A.Q.", "Contact", "OK", "X", "Type", "Function", "Sub", "Private", "Public",
         "Assistant", "Rectangle", "Oval", "Y", "ms", "Visible", "Internet", "x", "Zoom", "Email", "E-mail", "Web",
         "Code", "Menu", "Box",
-        // Kept French: the default sub-menu name (a file name) and the project's name.
-        "SousMenu1", "menu"};
+        // Kept French: the default sub-menu name (a file name), the project's
+        // name, the appearances' names (keys of apparences.ini) and a font name.
+        "SousMenu1", "menu", "Par défaut", "Bleu", "Rouge", "Orange", "Clair", "Sombre", "Sombre2", "MS Sans Serif"};
     bool letters = false;
     for (QChar c : text)
         letters = letters || c.isLetter();
@@ -277,6 +278,10 @@ const std::vector<Road>& roads()
                  }
                  click(w, "Command2");
              }
+         }},
+        {"appearances", [](LanguageSession& s, const Look& look) {
+             s.trigger(CommandId::Appearances);
+             look("editor shown", {&s.windows().main()});
          }},
         {"other windows", [](LanguageSession& s, const Look& look) {
              s.trigger(CommandId::FileProperties);
