@@ -212,6 +212,5 @@ BENCHMARK(BM_SelectWithTheQtPanel)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv)
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     return qor::bench::runQtBenchmarks(argc, argv);
 }

@@ -4,11 +4,16 @@
 
 #include <QApplication>
 
+#include <cstdlib>
+
 namespace qor::bench {
 
-// The benchmarks of this program, run with a Qt application alive.
+// The benchmarks of this program, run with a Qt application alive. They run
+// on Qt's offscreen platform, so a machine without a screen runs them too;
+// QT_QPA_PLATFORM set by the caller still chooses another.
 inline int runQtBenchmarks(int argc, char** argv)
 {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

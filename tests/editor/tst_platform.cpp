@@ -13,6 +13,7 @@
 #include "editor/platform/desktop_file_type_registry.h"
 #include "editor/platform/file_filter.h"
 #include "editor/platform/qt_desktop.h"
+#include "editor/platform/qt_dialog_language.h"
 #include "editor/platform/qt_dialogs.h"
 #include "editor/platform/qt_settings_store.h"
 #include "editor/platform/text_editor_choice.h"
@@ -235,6 +236,11 @@ void TestPlatform::messageBoxes()
     QFETCH(int, qtIcon);
     QFETCH(QStringList, buttonTexts);
     QFETCH(QString, defaultText);
+    // The captions are Qt's, in the interface language: French here.
+    QtDialogLanguage french;
+    french.follow("");
+    if (!french.french())
+        QSKIP("Qt's French translations (qt6-translations-l10n) are not installed");
     Message m{"Texte", "Titre", MessageIcon(icon), MessageButtons(buttons), defaultButton, false};
     auto box = buildMessageBox(m, nullptr);
     QCOMPARE(box->windowTitle(), QStringLiteral("Titre"));

@@ -57,7 +57,9 @@ void Plugins::fail()
 void Plugins::run(int position)
 {
     if (position == 0) {
-        dialogs_.message(Message{kNoPluginCaption, kNoPluginCaption, MessageIcon::Information});
+        // The placeholder says what it shows, in the interface language.
+        const std::string caption = state_.phrases.text(45, kNoPluginCaption);
+        dialogs_.message(Message{caption, caption, MessageIcon::Information});
         return;
     }
     if (position < 0 || position > int(commands_.size()))

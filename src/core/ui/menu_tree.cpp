@@ -125,8 +125,25 @@ const std::vector<MainMenu>& mainMenus()
     return menus;
 }
 
+namespace {
+
+std::map<CommandId, std::string>& shownCaptions()
+{
+    static std::map<CommandId, std::string> shown;
+    return shown;
+}
+
+}  // namespace
+
+void showCommandCaptions(std::map<CommandId, std::string> shown)
+{
+    shownCaptions() = std::move(shown);
+}
+
 const std::string& commandCaption(CommandId id)
 {
+    if (auto it = shownCaptions().find(id); it != shownCaptions().end())
+        return it->second;
     static const std::map<CommandId, std::string> captions = [] {
         std::map<CommandId, std::string> out;
         for (const auto& m : mainMenus())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,11 @@ const std::vector<MainMenu>& mainMenus();
 // The caption of a command as its menu shows it, access-key marker included
 // ("&Ouvrir"); some dialogs are titled with it.
 const std::string& commandCaption(CommandId id);
+
+// The main window tells the captions its menus show once its translation
+// script ran ("&Open" in English); commandCaption() gives them from then on.
+// An empty map goes back to the built-in French captions.
+void showCommandCaptions(std::map<CommandId, std::string> shown);
 
 // The caption of the single entry shown when the recent files list is empty.
 inline constexpr const char* kNoRecentFileCaption = "Aucun fichier récent";

@@ -10,6 +10,7 @@
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/ui/mouse_position_window.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 
@@ -209,7 +210,8 @@ void EditorDesignerView::setTimerIntervalField(const std::string& text)
 void EditorDesignerView::showStartupChoice(StartupChoice choice, const std::string& captionLine, bool modifyShown)
 {
     if (auto* p = panel())
-        p->windowPanel().showStartupChoice(choice, toQt(captionLine), modifyShown);
+        p->windowPanel().showStartupChoice(choice, inInterfaceLanguage(windows_.hooks(), toQt(captionLine)),
+                                           modifyShown);
 }
 
 void EditorDesignerView::showButtonFields(const ButtonFields& fields)

@@ -129,7 +129,7 @@ void EditorScriptEditorView::connectCommands(ScriptEditorWindow& w)
 void EditorScriptEditorView::load(const ScriptEditorRequest& request)
 {
     ScriptEditorWindow& w = window();
-    w.setWindowTitle(toQt(request.title));
+    w.setCaption(toQt(request.title));
     w.text()->setPlainText(toEditorText(request.text));
 }
 

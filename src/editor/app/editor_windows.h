@@ -97,6 +97,8 @@ public:
     void moveTo(QWidget& window, double left, double top);
 
     const ScreenMetrics& screen() const { return screen_; }
+    // The run's load hooks, also the way to the texts set after loading.
+    const WindowHooks& hooks() const { return hooks_; }
 
 private:
     template <class W, class... Args>

@@ -14,9 +14,10 @@
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
-#include "editor/ui/appearance_frame.h"
-#include "model/product.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/appearance_frame.h"
+#include "editor/ui/run_time_texts.h"
+#include "model/product.h"
 
 namespace qor {
 namespace {
@@ -31,6 +32,7 @@ constexpr Colour kButtonText = Colour(0x80000012u);
 MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget* parent)
     : QWidget(parent, Qt::Window), screen_(screen)
 {
+    hooks_ = &hooks;
     named(this, WindowId::Main);
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
@@ -71,10 +73,19 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
     setLocalTitleHandling(true);
 
     runLoadHooks(*this, hooks);
+    // Dialogs titled with a command's caption take it as the menu shows it.
+    std::map<CommandId, std::string> shown;
+    for (const auto& [id, action] : actions_)
+        if (id != CommandId::OpenRecent && id != CommandId::RunPlugin)
+            shown.emplace(id, fromQt(action->text()));
+    showCommandCaptions(std::move(shown));
     titleReset_.start();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    showCommandCaptions({});
+}
 
 void MainWindow::dispatch(CommandId id, int position)
 {
@@ -211,7 +222,7 @@ void MainWindow::setRecentFiles(const std::vector<std::string>& captions)
         any = true;
     }
     if (!any) {
-        QAction* none = addListAction(recent_, QString::fromUtf8(kNoRecentFileCaption), 0,
+        QAction* none = addListAction(recent_, inInterfaceLanguage(*hooks_, QString::fromUtf8(kNoRecentFileCaption)), 0,
                                       CommandId::OpenRecent, false);
         none->setEnabled(false);
     }
@@ -220,7 +231,7 @@ void MainWindow::setRecentFiles(const std::vector<std::string>& captions)
 void MainWindow::setPlugins(const std::vector<std::string>& captions, bool placeholderVisible)
 {
     clearList(plugins_);
-    QAction* placeholder = addListAction(plugins_, QString::fromUtf8(kNoPluginCaption), 0,
+    QAction* placeholder = addListAction(plugins_, inInterfaceLanguage(*hooks_, QString::fromUtf8(kNoPluginCaption)), 0,
                                          CommandId::RunPlugin, false);
     placeholder->setVisible(placeholderVisible);
     for (std::size_t p = 0; p < captions.size(); ++p)

@@ -139,6 +139,8 @@ private:
     QAction* addListAction(ListSlot& slot, const QString& caption, int index, CommandId id,
                            bool checkable);
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     ScreenMetrics screen_;
     CommandHandler handler_;
     std::array<MenuTitleLabel*, kTitleCount> titles_{};

@@ -15,6 +15,7 @@
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 
@@ -34,6 +35,7 @@ CompileDialog::CompileDialog(BuildFlows& build, const CompileRequest& fields, co
                              WindowHooks& hooks, QWidget* parent)
     : QDialog(parent), build_(build)
 {
+    hooks_ = &hooks;
     setObjectName(QStringLiteral("Form6"));
     setWindowTitle(QStringLiteral("Création pour graver"));
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -97,7 +99,9 @@ QWidget* CompileDialog::buildProgressFrame()
 {
     auto* frame = named(new QGroupBox(QStringLiteral("Progression")), "Frame1");
     auto* column = new QVBoxLayout(frame);
-    status_ = named(new QLabel(QStringLiteral("En attente de validation du répertoire...")), "Label2");
+    status_ =
+        named(new QLabel(inInterfaceLanguage(*hooks_, QStringLiteral("En attente de validation du répertoire..."))),
+              "Label2");
     step_ = named(new QLabel, "Label3");
     progress_ = named(new QProgressBar, "ProgressBar1");
     progress_->setRange(0, kProgressSteps);
@@ -158,7 +162,7 @@ void CompileDialog::setFieldsEnabled(bool enabled)
 
 void CompileDialog::setStatus(const std::string& text, Colour colour)
 {
-    status_->setText(toQt(text));
+    status_->setText(inInterfaceLanguage(*hooks_, toQt(text)));
     status_->setStyleSheet(colour == kNormalColour ? QString()
                                                    : QStringLiteral("color: %1;").arg(
                                                          toQColor(colour, palette()).name()));
@@ -167,7 +171,7 @@ void CompileDialog::setStatus(const std::string& text, Colour colour)
 
 void CompileDialog::setStep(const std::string& text)
 {
-    step_->setText(toQt(text));
+    step_->setText(inInterfaceLanguage(*hooks_, toQt(text)));
     repaintNow();
 }
 
@@ -180,7 +184,7 @@ void CompileDialog::setProgress(std::uint64_t done, std::uint64_t total)
 
 void CompileDialog::setInstruction(const std::string& text)
 {
-    instruction_->setText(toQtLines(text));
+    instruction_->setText(inInterfaceLanguage(*hooks_, toQtLines(text)));
     repaintNow();
 }
 

@@ -49,6 +49,8 @@ private:
     void compile();
     void repaintNow();
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     BuildFlows& build_;
     QLabel* instruction_ = nullptr;
     QLineEdit* target_ = nullptr;

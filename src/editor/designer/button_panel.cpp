@@ -53,7 +53,7 @@ void ButtonPanel::build()
     hoverSound_ = addPathRow(*grid, row, QStringLiteral("Son 'survol' :"), QStringLiteral("Text_son_survol"), true);
     row += 2;
     auto* hover = new QHBoxLayout;
-    hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
+    hover->addWidget(makeLabel(this, QStringLiteral("Actions au survol :"), QStringLiteral("Label_survol_bouton")));
     hover->addWidget(makeSmallCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_bouton")));
     hover->addStretch();
     grid->addLayout(hover, row++, 0, 1, 3);
@@ -70,6 +70,11 @@ void ButtonPanel::build()
     codeLine->setContentsMargins(0, 0, 0, 0);
     codeLine->addWidget(makeCommand(code_, QStringLiteral("Modifier le code VBS"), QStringLiteral("Command_code")));
     grid->addWidget(code_, row++, 0, 1, 3);
+    mediaMenu_ = named(new QMenu(this), "Menu_media");
+    for (std::size_t i = 0; i < std::size(kMediaEntries); ++i)
+        named(mediaMenu_->addAction(QString::fromUtf8(kMediaEntries[i].caption)), "media_mnu", int(i));
+    mediaMenu_->addSeparator();
+    named(mediaMenu_->addAction(QStringLiteral("Annuler")), "annuler_media_mnu");
 }
 
 QWidget* ButtonPanel::buildMediaPanel()
@@ -77,7 +82,8 @@ QWidget* ButtonPanel::buildMediaPanel()
     auto* panel = named(new QWidget(this), "Panneau_media");
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(new QLabel(QStringLiteral("Nom du fichier mutimédia :"), panel), 0, 0, 1, 3);
+    grid->addWidget(makeLabel(panel, QStringLiteral("Nom du fichier mutimédia :"), QStringLiteral("Label_media")), 0, 0,
+                    1, 3);
     mediaField_ = named(new QLineEdit(panel), "Text_media");
     grid->addWidget(mediaField_, 1, 0);
     grid->addWidget(makeSmallCommand(panel, QStringLiteral("..."), QStringLiteral("Command_media")), 1, 1);
@@ -91,7 +97,7 @@ QWidget* ButtonPanel::buildTransparencyFrame()
     auto* grid = new QGridLayout(frame);
     transparent_ = named(new QCheckBox(QStringLiteral("Activée"), frame), "Check_transparence");
     grid->addWidget(transparent_, 0, 0, 1, 2);
-    grid->addWidget(new QLabel(QStringLiteral("Couleur :"), frame), 1, 0);
+    grid->addWidget(makeLabel(frame, QStringLiteral("Couleur :"), QStringLiteral("Label_transparence")), 1, 0);
     transparentColour_ = makeSwatch(frame, QStringLiteral("Picture_transparence"));
     grid->addWidget(transparentColour_, 1, 1);
     grid->addWidget(makeCommand(frame, QStringLiteral("Aperçu rapide"), QStringLiteral("Command_apercu")), 2, 0);
@@ -130,14 +136,13 @@ void ButtonPanel::connectFlows(ElementPanelFlows& f)
 void ButtonPanel::popUpMediaMenu(ElementPanelFlows& flows)
 {
     QPushButton* at = command(QStringLiteral("Command_media"));
-    QMenu menu(this);
-    for (const auto& e : kMediaEntries) {
-        const MediaLocation where = e.where;
-        menu.addAction(QString::fromUtf8(e.caption), this, [&flows, where] { flows.locateMedia(where); });
-    }
-    menu.addSeparator();
-    menu.addAction(QStringLiteral("Annuler"));
-    menu.exec(at->mapToGlobal(QPoint(0, at->height())));
+    const auto taken = connect(mediaMenu_, &QMenu::triggered, this, [&flows](QAction* a) {
+        const int entry = a->objectName() == QStringLiteral("media_mnu") ? controlIndex(*a) : -1;
+        if (entry >= 0 && entry < int(std::size(kMediaEntries)))
+            flows.locateMedia(kMediaEntries[std::size_t(entry)].where);
+    });
+    mediaMenu_->exec(at->mapToGlobal(QPoint(0, at->height())));
+    disconnect(taken);
 }
 
 void ButtonPanel::showFields(const ButtonFields& f)

@@ -9,6 +9,8 @@
 
 class QCheckBox;
 
+class QMenu;
+
 namespace qor {
 
 // Panel 1 of the properties panel, a button's properties, with its two
@@ -42,6 +44,8 @@ private:
     PathRow clickSound_, hoverSound_;
     QWidget* media_ = nullptr;
     QWidget* code_ = nullptr;
+    // The media location pop-up, built once so a translation can retitle it.
+    QMenu* mediaMenu_ = nullptr;
     QLineEdit* mediaField_ = nullptr;
     QCheckBox* transparent_ = nullptr;
     QPushButton* transparentColour_ = nullptr;

@@ -23,11 +23,22 @@ QPushButton* makeSmallCommand(QWidget* parent, const QString& caption, const QSt
     return b;
 }
 
-QLabel* makeCaption(QWidget* parent, const QString& caption)
+QLabel* makeLabel(QWidget* parent, const QString& caption, const QString& name)
 {
-    auto* label = new QLabel(caption, parent);
+    return named(new QLabel(caption, parent), name);
+}
+
+QLabel* makeCaption(QWidget* parent, const QString& caption, const QString& name)
+{
+    auto* label = makeLabel(parent, caption, name);
     label->setWordWrap(true);
     return label;
+}
+
+// "Check_plein" -> "Label_plein", "Text_fond" -> "Label_fond".
+QString captionName(const QString& controlName, const QString& prefix)
+{
+    return QStringLiteral("Label") + controlName.mid(prefix.size());
 }
 
 namespace {
@@ -59,7 +70,7 @@ QCheckBox* addWrappedBox(QGridLayout& grid, int row, const QString& caption, con
     auto* line = new QHBoxLayout;
     line->setSpacing(2);
     line->addWidget(box, 0, Qt::AlignTop);
-    line->addWidget(new BoxCaption(caption, box), 1);
+    line->addWidget(named(new BoxCaption(caption, box), captionName(name, QStringLiteral("Check"))), 1);
     grid.addLayout(line, row, 0, 1, 3);
     return box;
 }
@@ -68,7 +79,7 @@ PathRow addPathRow(QGridLayout& grid, int row, const QString& caption, const QSt
 {
     QWidget* parent = grid.parentWidget();
     PathRow r;
-    grid.addWidget(new QLabel(caption, parent), row, 0, 1, 3);
+    grid.addWidget(makeLabel(parent, caption, captionName(name, QStringLiteral("Text"))), row, 0, 1, 3);
     r.field = named(new QLineEdit(parent), name);
     r.field->setReadOnly(true);
     grid.addWidget(r.field, row + 1, 0);

@@ -22,6 +22,7 @@ struct PathRow {
 };
 
 // Adds at row of grid: the caption, the field, "..." and (withClear) "X".
+// The caption is named like the field with "Label" for "Text".
 PathRow addPathRow(QGridLayout& grid, int row, const QString& caption, const QString& name, bool withClear);
 
 // A colour swatch: a flat command filled with the colour.
@@ -29,11 +30,16 @@ QPushButton* makeSwatch(QWidget* parent, const QString& name);
 void showSwatchColour(QPushButton& swatch, Colour colour);
 
 // A check box whose caption wraps onto more lines: the panel is narrow and
-// some captions are long. Clicking the caption clicks the box.
+// some captions are long. Clicking the caption clicks the box. The caption
+// is a label of its own, named like the box with "Label" for "Check"
+// ("Check_plein" has "Label_plein"), so a translation sets it by name.
 QCheckBox* addWrappedBox(QGridLayout& grid, int row, const QString& caption, const QString& name);
 
-// A caption that wraps in the narrow panel.
-QLabel* makeCaption(QWidget* parent, const QString& caption);
+// A caption that wraps in the narrow panel, with its control name.
+QLabel* makeCaption(QWidget* parent, const QString& caption, const QString& name);
+
+// A label with its control name.
+QLabel* makeLabel(QWidget* parent, const QString& caption, const QString& name);
 
 // A command with a caption and a control name.
 QPushButton* makeCommand(QWidget* parent, const QString& caption, const QString& name);

@@ -15,6 +15,7 @@
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -27,6 +28,7 @@ constexpr double kBarBottomMargin = 50;
 
 PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks) : screen_(screen)
 {
+    hooks_ = &hooks;
     named(this, WindowId::PropertiesPanel);
     setWindowTitle(QStringLiteral("Paramètres"));
     selector_ = new QComboBox(this);
@@ -41,7 +43,7 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     auto* column = new QVBoxLayout(content_);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    window_ = new WindowPanel(content_);
+    window_ = new WindowPanel(content_, hooks);
     button_ = new ButtonPanel(content_);
     text_ = new TextPanel(content_);
     for (QWidget* p : {static_cast<QWidget*>(window_), static_cast<QWidget*>(button_), static_cast<QWidget*>(text_)})
@@ -71,13 +73,14 @@ void PropertiesPanel::connectDesigner(Designer& designer)
 void PropertiesPanel::resetElementSelector()
 {
     selector_->clear();
-    selector_->addItem(toQt(kWorksheetEntry));
+    // Shown in the interface language; the designer keeps the entries it parses.
+    selector_->addItem(inInterfaceLanguage(*hooks_, toQt(kWorksheetEntry)));
     selector_->setCurrentIndex(0);
 }
 
 void PropertiesPanel::addElementEntry(const std::string& entry)
 {
-    selector_->addItem(toQt(entry));
+    selector_->addItem(inInterfaceLanguage(*hooks_, toQt(entry)));
 }
 
 void PropertiesPanel::removeElementEntry(int index)

@@ -61,6 +61,8 @@ private:
     void layOut();
     void scrollTo(int value);
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     ScreenMetrics screen_;
     QComboBox* selector_ = nullptr;
     QScrollBar* scroll_ = nullptr;

@@ -16,20 +16,22 @@ TextPanel::TextPanel(QWidget* parent) : QWidget(parent)
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(4, 4, 4, 4);
     grid->setVerticalSpacing(2);
-    grid->addWidget(makeCaption(this, QStringLiteral("Couleur de fond :")), 0, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Couleur de fond :"), QStringLiteral("Label_fond_texte")), 0, 0);
     back_ = makeSwatch(this, QStringLiteral("Picture_fond_texte"));
     grid->addWidget(back_, 0, 1);
-    grid->addWidget(makeCaption(this, QStringLiteral("Couleur du texte :")), 1, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Couleur du texte :"), QStringLiteral("Label_couleur_texte")), 1,
+                    0);
     fore_ = makeSwatch(this, QStringLiteral("Picture_couleur_texte"));
     grid->addWidget(fore_, 1, 1);
-    grid->addWidget(makeCaption(this, QStringLiteral("Police, style, taille : ")), 2, 0);
+    grid->addWidget(makeCaption(this, QStringLiteral("Police, style, taille : "), QStringLiteral("Label_police")), 2,
+                    0);
     grid->addWidget(makeCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_police")), 2, 1);
     auto* size = new QHBoxLayout;
-    size->addWidget(new QLabel(QStringLiteral("Taille :"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("Taille :"), QStringLiteral("Label_taille_texte")));
     width_ = named(new QLineEdit(this), "Text_largeur_texte");
     height_ = named(new QLineEdit(this), "Text_hauteur_texte");
     size->addWidget(width_);
-    size->addWidget(new QLabel(QStringLiteral("x"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("x"), QStringLiteral("Label_fois_texte")));
     size->addWidget(height_);
     size->addWidget(makeSmallCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille_texte")));
     grid->addLayout(size, 3, 0, 1, 2);

@@ -49,22 +49,28 @@ ToolboxWindow::ToolboxWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     outline_ = named(new QLabel(this), "Picture1");
     outline_->hide();
     outline_->installEventFilter(this);
+    outlineMenu_ = named(new QMenu(this), "Menu_transparence");
+    for (std::size_t i = 0; i < kOutlineEntries.size(); ++i) {
+        if (kOutlineEntries[i].separatorBefore)
+            outlineMenu_->addSeparator();
+        const std::string_view caption = kOutlineEntries[i].caption;
+        named(outlineMenu_->addAction(QString::fromUtf8(caption.data(), qsizetype(caption.size()))), "transparence_mnu",
+              int(i));
+    }
     runLoadHooks(*this, hooks);
 }
 
 std::optional<OutlineCommand> ToolboxWindow::popUpOutlineMenu()
 {
     QPushButton* at = commands_[kCommandCount - 1];
-    QMenu menu(this);
     std::optional<OutlineCommand> chosen;
-    for (const OutlineEntry& e : kOutlineEntries) {
-        if (e.separatorBefore)
-            menu.addSeparator();
-        const OutlineCommand command = e.command;
-        menu.addAction(QString::fromUtf8(e.caption.data(), qsizetype(e.caption.size())), this,
-                       [&chosen, command] { chosen = command; });
-    }
-    menu.exec(at->mapToGlobal(QPoint(0, at->height())));
+    const auto taken = connect(outlineMenu_, &QMenu::triggered, this, [&chosen](QAction* a) {
+        const int entry = controlIndex(*a);
+        if (entry >= 0 && entry < int(kOutlineEntries.size()))
+            chosen = kOutlineEntries[std::size_t(entry)].command;
+    });
+    outlineMenu_->exec(at->mapToGlobal(QPoint(0, at->height())));
+    disconnect(taken);
     return chosen;
 }
 

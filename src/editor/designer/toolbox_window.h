@@ -8,6 +8,8 @@
 class QLabel;
 class QPushButton;
 
+class QMenu;
+
 namespace qor {
 
 // The toolbox "Objets" ("Form1"): three framed groups of commands that
@@ -36,6 +38,8 @@ protected:
 
 private:
     QPushButton* commands_[kCommandCount] = {};
+    // The "Transparence" pop-up, built once so a translation can retitle it.
+    QMenu* outlineMenu_ = nullptr;
     QLabel* outline_ = nullptr;
     QSize groupsSize_;
 };

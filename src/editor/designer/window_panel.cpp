@@ -9,6 +9,7 @@
 
 #include "editor/platform/qt_text.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -24,7 +25,7 @@ QHBoxLayout* rowAt(QGridLayout& grid, int row)
 
 }  // namespace
 
-WindowPanel::WindowPanel(QWidget* parent) : QWidget(parent)
+WindowPanel::WindowPanel(QWidget* parent, const WindowHooks& hooks) : QWidget(parent), hooks_(hooks)
 {
     named(this, "Panneau_fenetre");
     build();
@@ -40,23 +41,24 @@ void WindowPanel::build()
     row += 2;
     fullScreen_ = addWrappedBox(*grid, row++, QStringLiteral("Plein écran"), QStringLiteral("Check_plein"));
     auto* size = rowAt(*grid, row++);
-    size->addWidget(new QLabel(QStringLiteral("Taille :"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("Taille :"), QStringLiteral("Label_taille")));
     width_ = named(new QLineEdit(this), "Text_largeur");
     height_ = named(new QLineEdit(this), "Text_hauteur");
     sizeOk_ = makeSmallCommand(this, QStringLiteral("OK"), QStringLiteral("Command_taille"));
     size->addWidget(width_);
-    size->addWidget(new QLabel(QStringLiteral("x"), this));
+    size->addWidget(makeLabel(this, QStringLiteral("x"), QStringLiteral("Label_fois")));
     size->addWidget(height_);
     size->addWidget(sizeOk_);
     fit_ = makeCommand(this, QStringLiteral("Ajuster à l'image de fond"), QStringLiteral("Command_ajuster"));
     grid->addWidget(fit_, row++, 0, 1, 3);
     auto* zoom = rowAt(*grid, row++);
-    zoom->addWidget(makeCaption(this, QStringLiteral("Zoom (en gardant les proportions) :")), 1);
+    zoom->addWidget(
+        makeCaption(this, QStringLiteral("Zoom (en gardant les proportions) :"), QStringLiteral("Label_zoom")), 1);
     zoom->addWidget(makeSmallCommand(this, QStringLiteral("-"), QStringLiteral("Command_zoom_moins")));
     zoom->addWidget(makeSmallCommand(this, QStringLiteral("+"), QStringLiteral("Command_zoom_plus")));
     border_ = addWrappedBox(*grid, row++, QStringLiteral("Contours"), QStringLiteral("Check_contours"));
     auto* colour = rowAt(*grid, row++);
-    colour->addWidget(new QLabel(QStringLiteral("Couleur de fond :"), this));
+    colour->addWidget(makeLabel(this, QStringLiteral("Couleur de fond :"), QStringLiteral("Label_couleur")));
     colour_ = makeSwatch(this, QStringLiteral("Picture_couleur"));
     colour->addWidget(colour_);
     colour->addStretch();
@@ -70,27 +72,31 @@ void WindowPanel::build()
     timerGroup_ = named(new QGroupBox(this), "Frame_minuteur");
     auto* timerGrid = new QGridLayout(timerGroup_);
     auto* every = new QHBoxLayout;
-    every->addWidget(new QLabel(QStringLiteral("Toutes les"), timerGroup_));
+    every->addWidget(makeLabel(timerGroup_, QStringLiteral("Toutes les"), QStringLiteral("Label_toutes_les")));
     interval_ = named(new QLineEdit(timerGroup_), "Text_intervalle");
     every->addWidget(interval_);
-    every->addWidget(new QLabel(QStringLiteral("ms"), timerGroup_));
+    every->addWidget(makeLabel(timerGroup_, QStringLiteral("ms"), QStringLiteral("Label_ms")));
     timerGrid->addLayout(every, 0, 0, 1, 2);
     // One line that fits the frame: a caption that wraps would let the frame
     // be laid out shorter than its commands need.
-    timerGrid->addWidget(new QLabel(QStringLiteral("exécuter ce code VBS :"), timerGroup_), 1, 0, 1, 2);
+    timerGrid->addWidget(makeLabel(timerGroup_, QStringLiteral("exécuter ce code VBS :"), QStringLiteral("Label_code_minuteur")),
+                         1, 0, 1, 2);
     timerGrid->addWidget(makeSmallCommand(timerGroup_, QStringLiteral("&Modif."), QStringLiteral("Command_minuteur")), 2,
                          1);
     grid->addWidget(timerGroup_, row++, 0, 1, 3);
     contextMenu_ = addWrappedBox(*grid, row++, QStringLiteral("Menu contextuel à l'exécution"), QStringLiteral("Check_menu"));
     auto* global = rowAt(*grid, row++);
-    global->addWidget(makeCaption(this, QStringLiteral("Déclarations VBS globales :")), 1);
+    global->addWidget(makeCaption(this, QStringLiteral("Déclarations VBS globales :"), QStringLiteral("Label_global")),
+                      1);
     global->addWidget(makeSmallCommand(this, QStringLiteral("&Modif."), QStringLiteral("Command_global")));
     global->addWidget(makeSmallCommand(this, QStringLiteral("[?]"), QStringLiteral("Command_aide_global")));
     auto* hover = rowAt(*grid, row++);
-    hover->addWidget(new QLabel(QStringLiteral("Actions au survol :"), this));
+    hover->addWidget(makeLabel(this, QStringLiteral("Actions au survol :"), QStringLiteral("Label_survol_fenetre")));
     hover->addWidget(makeSmallCommand(this, QStringLiteral("Modif."), QStringLiteral("Command_survol_fenetre")));
     hover->addStretch();
-    grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :")), row++, 0, 1, 3);
+    grid->addWidget(makeCaption(this, QStringLiteral("Action à effectuer au démarrage :"),
+                                QStringLiteral("Label_action_demarrage")),
+                    row++, 0, 1, 3);
     startup_ = named(new QComboBox(this), "Combo_demarrage");
     startup_->addItems({QStringLiteral("Rien"), QStringLiteral("Lancer un fichier multimédia"),
                         QStringLiteral("Exécuter du code VBS")});
@@ -148,7 +154,9 @@ void WindowPanel::showProject(const MenuProject& p)
     border_->setChecked(p.border);
     showSwatchColour(*colour_, p.backgroundColor);
     music_.field->setText(toQt(p.backgroundMusic));
-    icon_.field->setText(toQt(p.icon));
+    // The default icon marker reads in the interface language; any text in
+    // parentheses is the marker, so the field means the same either way.
+    icon_.field->setText(inInterfaceLanguage(hooks_, toQt(p.icon)));
     handCursor_->setChecked(p.handCursor);
     timer_->setChecked(p.timerEnabled);
     timerGroup_->setEnabled(p.timerEnabled);

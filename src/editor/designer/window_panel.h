@@ -4,6 +4,7 @@
 
 #include "core/designer/window_panel_flows.h"
 #include "editor/designer/panel_controls.h"
+#include "editor/ui/window_hooks.h"
 
 class QCheckBox;
 class QComboBox;
@@ -17,7 +18,8 @@ namespace qor {
 class WindowPanel : public QWidget {
     Q_OBJECT
 public:
-    explicit WindowPanel(QWidget* parent);
+    // hooks: the run's, for the texts it shows in the interface language.
+    WindowPanel(QWidget* parent, const WindowHooks& hooks);
 
     void connectFlows(WindowPanelFlows& flows);
     void showProject(const MenuProject& project);
@@ -39,6 +41,7 @@ public:
     QPushButton* colourSwatch() const { return colour_; }
 
 private:
+    const WindowHooks& hooks_;
     void build();
 
     PathRow background_, music_, icon_;

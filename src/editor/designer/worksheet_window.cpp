@@ -17,6 +17,7 @@
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -51,6 +52,7 @@ QStringList localFiles(const QMimeData* data)
 WorksheetWindow::WorksheetWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : ToolWindow(nullptr, Qt::Window), screen_(screen)
 {
+    hooks_ = &hooks;
     named(this, WindowId::Worksheet);
     setWindowTitle(QStringLiteral("Feuille de travail"));
     setFocusPolicy(Qt::StrongFocus);
@@ -93,6 +95,7 @@ ButtonElement& WorksheetWindow::button(int number)
     if (it != buttons_.end())
         return *it->second;
     auto* b = new ButtonElement(number, this);
+    b->setToolTip(inInterfaceLanguage(*hooks_, b->toolTip()));
     watch(b);
     if (overlay_)
         b->stackUnder(overlay_);
@@ -106,6 +109,7 @@ TextElement& WorksheetWindow::text(int number)
     if (it != texts_.end())
         return *it->second;
     auto* t = new TextElement(number, this);
+    t->setToolTip(inInterfaceLanguage(*hooks_, t->toolTip()));
     watch(t);
     if (overlay_)
         t->stackUnder(overlay_);

@@ -94,6 +94,8 @@ private:
     void mouseReleased(QMouseEvent* event);
     void placeBackground();
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     ScreenMetrics screen_;
     WorksheetFlows* flows_ = nullptr;
     QLabel* background_ = nullptr;

@@ -45,17 +45,18 @@ QMessageBox::Icon iconOf(MessageIcon icon)
     return QMessageBox::NoIcon;
 }
 
+// The buttons' captions are Qt's own, in the interface language ("Oui" in
+// French, "Yes" otherwise).
 struct ButtonSpec {
     QMessageBox::StandardButton button;
-    const char* text;
 };
 
 std::vector<ButtonSpec> buttonsOf(MessageButtons buttons)
 {
-    const ButtonSpec ok{QMessageBox::Ok, "OK"};
-    const ButtonSpec cancel{QMessageBox::Cancel, "Annuler"};
-    const ButtonSpec yes{QMessageBox::Yes, "Oui"};
-    const ButtonSpec no{QMessageBox::No, "Non"};
+    const ButtonSpec ok{QMessageBox::Ok};
+    const ButtonSpec cancel{QMessageBox::Cancel};
+    const ButtonSpec yes{QMessageBox::Yes};
+    const ButtonSpec no{QMessageBox::No};
     switch (buttons) {
     case MessageButtons::Ok: return {ok};
     case MessageButtons::OkCancel: return {ok, cancel};
@@ -112,8 +113,9 @@ std::unique_ptr<QMessageBox> buildMessageBox(const Message& message, QWidget* pa
     for (const auto& s : choices)
         set |= s.button;
     box->setStandardButtons(set);
+    // Without access keys, as the captions of the editor's other messages.
     for (const auto& s : choices)
-        box->button(s.button)->setText(QString::fromUtf8(s.text));
+        box->button(s.button)->setText(box->button(s.button)->text().remove(QChar('&')));
     const int index = message.defaultButton >= 0 && message.defaultButton < int(choices.size())
                           ? message.defaultButton : 0;
     box->setDefaultButton(choices[std::size_t(index)].button);
@@ -162,8 +164,7 @@ std::string QtDialogs::inputBox(const std::string& prompt, const std::string& ti
     dialog.setWindowTitle(toQt(title));
     dialog.setLabelText(toQtLines(prompt));
     dialog.setTextValue(toQt(defaultText));
-    dialog.setOkButtonText(QStringLiteral("OK"));
-    dialog.setCancelButtonText(QStringLiteral("Annuler"));
+    // OK and Cancel come from Qt, in the interface language.
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return fromQt(dialog.textValue());

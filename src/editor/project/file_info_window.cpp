@@ -10,6 +10,7 @@
 
 #include "editor/platform/qt_text.h"
 #include "editor/platform/widget_names.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -37,6 +38,7 @@ void showOnWindowColour(QLineEdit& field, const QWidget& window)
 
 FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(parent)
 {
+    hooks_ = &hooks;
     named(this, WindowId::FileInfo);
     setWindowTitle(QStringLiteral("Propriétés"));
     setModal(true);
@@ -57,13 +59,13 @@ FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(pa
     notes_ = new QPlainTextEdit;
     named(notes_, "Text4");
     notes_->setTabChangesFocus(true);
-    form->addRow(QStringLiteral("Editeur :"), editor_);
-    form->addRow(QStringLiteral("Version :"), version_);
-    form->addRow(QStringLiteral("Version fichier :"), fileVersion_);
-    form->addRow(QStringLiteral("Nom de l'auteur :"), authorName_);
-    form->addRow(QStringLiteral("Adresse e-mail :"), authorEmail_);
-    form->addRow(QStringLiteral("Site internet :"), authorWebSite_);
-    form->addRow(QStringLiteral("Notes :"), notes_);
+    form->addRow(named(new QLabel(QStringLiteral("Editeur :"), this), "Label2"), editor_);
+    form->addRow(named(new QLabel(QStringLiteral("Version :"), this), "Label3"), version_);
+    form->addRow(named(new QLabel(QStringLiteral("Version fichier :"), this), "Label4"), fileVersion_);
+    form->addRow(named(new QLabel(QStringLiteral("Nom de l'auteur :"), this), "Label5"), authorName_);
+    form->addRow(named(new QLabel(QStringLiteral("Adresse e-mail :"), this), "Label6"), authorEmail_);
+    form->addRow(named(new QLabel(QStringLiteral("Site internet :"), this), "Label7"), authorWebSite_);
+    form->addRow(named(new QLabel(QStringLiteral("Notes :"), this), "Label8"), notes_);
     layout->addLayout(form);
 
     auto* buttons = new QHBoxLayout;
@@ -88,10 +90,10 @@ FileInfoWindow::FileInfoWindow(WindowHooks& hooks, QWidget* parent) : QDialog(pa
 
 void FileInfoWindow::fill(const FileInfoView& view)
 {
-    fileLine_->setText(toQt(view.fileLine));
-    editor_->setText(toQt(view.editor));
-    version_->setText(toQt(view.version));
-    fileVersion_->setText(toQt(view.fileVersion));
+    fileLine_->setText(inInterfaceLanguage(*hooks_, toQt(view.fileLine)));
+    editor_->setText(inInterfaceLanguage(*hooks_, toQt(view.editor)));
+    version_->setText(inInterfaceLanguage(*hooks_, toQt(view.version)));
+    fileVersion_->setText(inInterfaceLanguage(*hooks_, toQt(view.fileVersion)));
     authorName_->setText(toQt(view.authorName));
     authorEmail_->setText(toQt(view.authorEmail));
     authorWebSite_->setText(toQt(view.authorWebSite));

@@ -53,6 +53,8 @@ public:
 private:
     void applyNotesRule();
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     QLabel* fileLine_ = nullptr;
     QLineEdit* editor_ = nullptr;
     QLineEdit* version_ = nullptr;

@@ -15,7 +15,7 @@ void AssistantPopup::addEntries(QMenu& menu, const std::vector<AssistantEntry>& 
 {
     for (const AssistantEntry& e : entries) {
         if (!e.children.empty()) {
-            addEntries(*menu.addMenu(toQt(e.caption)), e.children);
+            addEntries(*named(menu.addMenu(toQt(e.caption)), e.name, e.index), e.children);
             continue;
         }
         QAction* action = named(menu.addAction(toQt(e.caption)), e.name, e.index);

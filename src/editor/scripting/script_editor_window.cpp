@@ -21,6 +21,7 @@
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
 #include "editor/scripting/assistant_popup.h"
+#include "editor/ui/run_time_texts.h"
 
 namespace qor {
 namespace {
@@ -50,6 +51,7 @@ QTimer* namedTimer(QObject* parent, const char* name, int interval, bool singleS
 ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : QWidget(nullptr, Qt::Window), screen_(screen)
 {
+    hooks_ = &hooks;
     named(this, WindowId::ScriptEditor);
     setWindowTitle(QStringLiteral("Code VBS"));
     buildStrip();
@@ -63,6 +65,11 @@ ScriptEditorWindow::ScriptEditorWindow(const ScreenMetrics& screen, WindowHooks&
     connect(cursors_, &AssistantPopup::chosen, this, [this](const QString&, int cursor) { emit cursorChosen(cursor); });
     resize(twipsToPixels(11000, 6000, screen));
     runLoadHooks(*this, hooks);
+}
+
+void ScriptEditorWindow::setCaption(const QString& french)
+{
+    setWindowTitle(inInterfaceLanguage(*hooks_, french));
 }
 
 void ScriptEditorWindow::buildStrip()
@@ -87,7 +94,7 @@ void ScriptEditorWindow::buildStrip()
     // the right edge is part of the window's layout rule. The strip keeps
     // room for it so that it never covers the commands.
     procedures_ = named(new QComboBox(strip_), "Combo1");
-    procedures_->addItem(toQt(kProcedureListTitle));
+    procedures_->addItem(inInterfaceLanguage(*hooks_, toQt(kProcedureListTitle)));
     procedures_->setMinimumContentsLength(18);
     row->addSpacing(procedures_->sizeHint().width() + twipsToPixels(kProcedureListMargin, screen_.twipsPerPixelX));
     connect(procedures_, &QComboBox::activated, this, [this](int index) {
@@ -173,7 +180,7 @@ void ScriptEditorWindow::buildTimers()
 void ScriptEditorWindow::showProcedures(const QStringList& names, const QStringList& declarations)
 {
     procedures_->clear();
-    procedures_->addItem(toQt(kProcedureListTitle));
+    procedures_->addItem(inInterfaceLanguage(*hooks_, toQt(kProcedureListTitle)));
     procedures_->addItems(names);
     procedures_->setCurrentIndex(0);
     declarations_->clear();

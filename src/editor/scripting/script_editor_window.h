@@ -70,6 +70,11 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+public:
+    // The title for the script being edited ("Code VBS du minuteur" ...), in
+    // the interface language.
+    void setCaption(const QString& french);
+
 private:
     void buildStrip();
     void buildText();
@@ -80,6 +85,8 @@ private:
     void confirmNewProcedure();
     void placeOverlays();
 
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
     ScreenMetrics screen_;
     QWidget* strip_ = nullptr;
     QPlainTextEdit* text_ = nullptr;

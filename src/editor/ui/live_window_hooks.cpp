@@ -19,8 +19,17 @@ void LiveWindowHooks::translate(QWidget& window)
 {
     if (!translator_)
         return;
-    if (auto failed = translator_->translate(fromQt(window.objectName()), windowNode(window)))
+    if (auto failed = translator_->translate(fromQt(window.objectName()), windowNode(window))) {
+        if (languageDropped)
+            languageDropped();
         dialogs_->message(*failed);
+    }
+}
+
+QString LiveWindowHooks::phrase(int number, const QString& french) const
+{
+    // Phrases keep the scripts' CR LF; the windows show "\n".
+    return state_ ? toQtLines(state_->phrases.text(number, fromQtLines(french))) : french;
 }
 
 void LiveWindowHooks::applyAppearance(QWidget& window)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "core/app/app_state.h"
@@ -19,6 +20,10 @@ public:
 
     void translate(QWidget& window) override;
     void applyAppearance(QWidget& window) override;
+    QString phrase(int number, const QString& french) const override;
+
+    // Called when a translation script failed and the run went back to French.
+    std::function<void()> languageDropped;
 
 private:
     AppState* state_ = nullptr;

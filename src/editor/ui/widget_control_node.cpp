@@ -108,10 +108,17 @@ std::vector<QObject*> WidgetControlNode::windowControls() const
 
 std::vector<std::unique_ptr<ControlNode>> WidgetControlNode::controls(std::string_view name)
 {
+    if (!byName_) {
+        byName_.emplace();
+        for (QObject* o : windowControls())
+            if (!o->objectName().isEmpty())
+                byName_->emplace(toLowerText(fromQt(o->objectName())), o);
+    }
     std::vector<std::unique_ptr<ControlNode>> nodes;
-    for (QObject* o : windowControls())
-        if (!o->objectName().isEmpty() && equalsNoCase(fromQt(o->objectName()), name))
-            nodes.push_back(std::make_unique<WidgetControlNode>(o, window_));
+    const auto [first, last] = byName_->equal_range(toLowerText(name));
+    for (auto it = first; it != last; ++it)
+        if (it->second)
+            nodes.push_back(std::make_unique<WidgetControlNode>(it->second, window_));
     return nodes;
 }
 

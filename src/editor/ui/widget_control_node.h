@@ -2,7 +2,10 @@
 
 #include <QPointer>
 
+#include <map>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "core/ui/control_tree.h"
 
@@ -36,6 +39,10 @@ private:
 
     QPointer<QObject> object_;
     QPointer<QWidget> window_;
+    // A window's controls by lower-case name, gathered at the first lookup:
+    // a script names many controls, and the window's tree does not change
+    // while one runs.
+    std::optional<std::multimap<std::string, QObject*>> byName_;
 };
 
 // The node of a whole window.

@@ -6,6 +6,11 @@ void WindowHooks::translate(QWidget&) {}
 
 void WindowHooks::applyAppearance(QWidget&) {}
 
+QString WindowHooks::phrase(int, const QString& french) const
+{
+    return french;
+}
+
 WindowHooks& WindowHooks::none()
 {
     static WindowHooks hooks;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 namespace qor {
@@ -16,6 +18,10 @@ public:
 
     virtual void translate(QWidget& window);
     virtual void applyAppearance(QWidget& window);
+
+    // A text a window sets after it loaded (a placeholder, a step header, a
+    // status line): phrase number of the interface language, or french.
+    virtual QString phrase(int number, const QString& french) const;
 
     // Hooks that do nothing.
     static WindowHooks& none();

@@ -11,6 +11,7 @@
 
 #include "core/wizard/wizard_steps.h"
 #include "editor/platform/colours.h"
+#include "editor/ui/run_time_texts.h"
 #include "editor/wizard/text_button_image.h"
 #include "editor/wizard/wizard_controls.h"
 #include "editor/wizard/wizard_widgets.h"
@@ -39,6 +40,7 @@ QString illustration(int step)
 
 CreationWizardWindow::CreationWizardWindow(WindowHooks& hooks, QWidget* parent) : QDialog(parent)
 {
+    hooks_ = &hooks;
     registerWizardResources();
     // Its internal name is the one its dialog errors name.
     named(this, WindowId::Wizard);
@@ -214,7 +216,7 @@ void CreationWizardWindow::refresh()
     refreshing_ = true;
     const WizardForm& f = wizard_->form();
     panels_->setCurrentIndex(f.step);
-    header_->setText(toQt(stepHeader(f.step)));
+    header_->setText(inInterfaceLanguage(*hooks_, toQt(stepHeader(f.step))));
     illustration_->setPixmap(QPixmap(illustration(f.step)));
     const WizardNavigation nav = navigationOf(f.step);
     previous_->setEnabled(nav.previous);

@@ -54,6 +54,9 @@ protected:
     void reject() override;
 
 private:
+    // The run's hooks: the texts set after loading come in its language.
+    const WindowHooks* hooks_ = &WindowHooks::none();
+
     // The window's parts, one builder and one refresher each.
     QWidget* buildNameStep();
     QWidget* buildStartStep();

@@ -3,6 +3,7 @@
 #include <QStandardPaths>
 
 #include "editor/platform/qt_text.h"
+#include "editor/ui/run_time_texts.h"
 #include "editor/wizard/creation_wizard_window.h"
 
 namespace qor {
@@ -31,6 +32,8 @@ void EditorWizard::open(QWidget* parent)
         needs_.wizardOpen, WizardPorts{needs_.dialogs, needs_.desktop, pictures_, needs_.document}, *window_,
         std::move(setup));
     window_->attach(*flows_);
+    // The default menu name is the one text of the form a person reads.
+    flows_->setMenuName(fromQt(inInterfaceLanguage(needs_.hooks, toQt(flows_->form().menuName))));
     flows_->open();
     window_->show();
     window_->raise();

@@ -18,7 +18,10 @@ void collectLeaves(const std::vector<AssistantEntry>& entries, std::map<std::str
             EXPECT_FALSE(e.name.empty()) << e.caption;
             leaves[e.name].push_back(e.index);
         } else {
-            EXPECT_TRUE(e.name.empty()) << e.caption;
+            // Named for translations, never like an entry that writes a statement.
+            const auto generators = assistantGeneratorNames();
+            EXPECT_FALSE(e.name.empty()) << e.caption;
+            EXPECT_EQ(std::find(generators.begin(), generators.end(), e.name), generators.end()) << e.caption;
             collectLeaves(e.children, leaves);
         }
     }
