@@ -446,7 +446,10 @@ StmtPtr Compiler::assignment(SyntaxNode& n)
             return at(std::make_unique<AssignLocal>(r.slot, std::move(value), n.flag), line);
         if (r.kind == NameKind::Constant)
             return illegalAssignment(target.name, line);
-        return at(std::make_unique<AssignVar>(variable(target.name, line), std::move(value), n.flag), line);
+        VarRef var = variable(target.name, line);
+        if (var.kind == VarRef::Global)
+            return at(std::make_unique<AssignGlobal>(var.global, std::move(value), n.flag), line);
+        return at(std::make_unique<AssignVar>(var, std::move(value), n.flag), line);
     }
     case Syn::Member:
     case Syn::WithMember:

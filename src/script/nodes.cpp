@@ -74,10 +74,19 @@ inline void stepCounter(Value& counter, const Value& by)
 
 Operand::Operand(ExprPtr e) : expr(std::move(e))
 {
-    if (auto* l = dynamic_cast<LocalGet*>(expr.get()))
+    if (auto* l = dynamic_cast<LocalGet*>(expr.get())) {
+        kind = Kind::Local;
         slot = l->slot;
-    else if (auto* k = dynamic_cast<Literal*>(expr.get()))
+    } else if (auto* r = dynamic_cast<RefParamGet*>(expr.get())) {
+        kind = Kind::RefParam;
+        slot = r->slot;
+    } else if (auto* k = dynamic_cast<Literal*>(expr.get())) {
+        kind = Kind::Constant;
         constant = &k->value;
+    } else if (auto* g = dynamic_cast<GlobalGet*>(expr.get())) {
+        kind = Kind::Global;
+        global = g->global;
+    }
 }
 
 Value& VarRef::storage(Frame& f) const
@@ -244,10 +253,6 @@ Flow Block::guarded(const Stmt& s, Frame& f)
 Flow AssignVar::exec(Frame& f) const
 {
     Value v = value->eval(f);
-    if (var.kind == VarRef::Global) {
-        f.rt->writeGlobal(*var.global, std::move(v), isSet);
-        return Flow::Normal;
-    }
     var.storage(f) = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
     return Flow::Normal;
 }
@@ -297,19 +302,25 @@ Flow ForStmt::exec(Frame& f) const
         f.rt->writeGlobal(*var.global, std::move(from), false);
     else
         var.storage(f) = std::move(from);
-    if (var.kind == VarRef::Local && to.isInteger() && by.isInteger()) {
-        if (std::optional<Flow> done = runLocalCounter(f, up))
+    if (to.isInteger() && by.isInteger()) {
+        std::optional<Flow> done;
+        if (var.kind == VarRef::Local)
+            done = runCounter(f, up, f.locals[var.slot], nullptr);
+        else if (var.kind == VarRef::Global && var.global->kind == Global::Variable)
+            done = runCounter(f, up, var.global->value, var.global);
+        if (done)
             return *done;
     }
     return runGeneral(f, up);
 }
 
-// A local counter with whole-number bounds: the common loop, kept tight.
-// Nothing when the body stored something else in the counter: the general
-// loop finishes the work.
-std::optional<Flow> ForStmt::runLocalCounter(Frame& f, bool up) const
+// A local or module variable as counter, whole-number bounds: the common
+// loop, kept tight. Nothing when the body stored something else in the
+// counter: the general loop finishes the work. A module counter is
+// watched: a script run from the body may make its name something else
+// than a variable, and the general loop's step then reports it.
+std::optional<Flow> ForStmt::runCounter(Frame& f, bool up, Value& counter, const struct Global* global) const
 {
-    Value& counter = f.locals[var.slot];
     const Value& by = f.locals[stepSlot];
     const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
     const bool integerStep = by.type() == Type::Integer;
@@ -323,6 +334,10 @@ std::optional<Flow> ForStmt::runLocalCounter(Frame& f, bool up) const
             return Flow::Normal;
         if (std::optional<Flow> done = turn(statements, forLine, f))
             return done;
+        if (global && global->kind != Global::Variable) {
+            stepCounter(var.storage(f), by);
+            return std::nullopt;
+        }
         if (!counter.isInteger()) {
             stepCounter(counter, by);
             return std::nullopt;

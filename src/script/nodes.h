@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 #include <string>
 #include <vector>
 
@@ -98,37 +99,57 @@ struct BinaryExpr final : Expr {
     Value eval(Frame& f) const override;
 };
 
-// An operand of the hot operators: a local or a literal is read in place,
-// without a virtual call or a copy; anything else is evaluated.
+// An operand of the hot operators: a local, a ByRef parameter, a literal or
+// a module variable is read in place, without a virtual call or a copy;
+// anything else is evaluated.
 struct Operand {
+    enum class Kind : std::uint8_t { Local, RefParam, Constant, Global, Other };
     ExprPtr expr;
+    Kind kind = Kind::Other;
     int slot = -1;
     const Value* constant = nullptr;
+    const struct Global* global = nullptr;
 
     explicit Operand(ExprPtr e);
-    bool simple() const { return slot >= 0 || constant; }
+    // The value where it lies when reading it runs no code; null when it
+    // must be evaluated (a call, or a global that is a procedure or not
+    // yet defined: those may run a script or ask the host).
+    const Value* peek(Frame& f) const
+    {
+        switch (kind) {
+        case Kind::Local: return &f.locals[slot];
+        case Kind::RefParam: return &std::as_const(f.locals[slot]).deref();
+        case Kind::Constant: return constant;
+        case Kind::Global: return global->kind >= Global::Variable && global->kind != Global::Proc ? &global->value : nullptr;
+        case Kind::Other: break;
+        }
+        return nullptr;
+    }
     const Value& get(Frame& f, Value& tmp) const
     {
-        if (slot >= 0)
-            return f.locals[slot];
-        if (constant)
-            return *constant;
+        if (const Value* p = peek(f))
+            return *p;
         tmp = expr->eval(f);
         return tmp;
     }
 };
 
-// Reads both operands left to right; a local on the left is copied first
-// when the right side may run code that changes it.
+// Reads both operands left to right; an operand read in place on the left
+// is copied first when the right side runs code that may change it.
 #define QOR_OPERANDS(f)                                              \
     Value ta, tb;                                                    \
     const Value* pa = &left.get(f, ta);                              \
-    if (!right.simple() && pa != &ta) {                              \
-        ta = *pa;                                                    \
-        pa = &ta;                                                    \
+    const Value* pb = right.peek(f);                                 \
+    if (!pb) {                                                       \
+        if (pa != &ta) {                                             \
+            ta = *pa;                                                \
+            pa = &ta;                                                \
+        }                                                            \
+        tb = right.expr->eval(f);                                    \
+        pb = &tb;                                                    \
     }                                                                \
     const Value& a = *pa;                                            \
-    const Value& b = right.get(f, tb)
+    const Value& b = *pb
 
 // A number the fast paths can take as a double: Integer, Long or Double
 // (a Date, a string or Empty go the general way).
@@ -169,14 +190,16 @@ struct AddSubExpr final : Expr {
         d = Subtract ? x - y : x + y;
         return d - d == 0;
     }
-    // local = a + b on locals and literals, computed in place.
-    bool intoLocal(Frame& f, Value& out) const
+    // variable = a + b when both operands are read in place, computed into
+    // the variable; false, with out untouched, when it takes the general way.
+    bool into(Frame& f, Value& out) const
     {
-        if (!left.simple() || !right.simple())
+        const Value* pa = left.peek(f);
+        const Value* pb = pa ? right.peek(f) : nullptr;
+        if (!pb)
             return false;
-        Value ta, tb;
-        const Value& a = left.get(f, ta);
-        const Value& b = right.get(f, tb);
+        const Value& a = *pa;
+        const Value& b = *pb;
         if (a.isInteger() && b.isInteger())
             return storeWhole(out, combine(a, b), bothInteger(a, b));
         double d;
@@ -334,9 +357,9 @@ struct AssignLocal final : Stmt {
     }
     Flow exec(Frame& f) const override
     {
-        if (addValue && addValue->intoLocal(f, f.locals[slot]))
+        if (addValue && addValue->into(f, f.locals[slot]))
             return Flow::Normal;
-        if (subValue && subValue->intoLocal(f, f.locals[slot]))
+        if (subValue && subValue->into(f, f.locals[slot]))
             return Flow::Normal;
         Value v = value->eval(f);
         if (v.type() >= Type::Object)
@@ -344,6 +367,43 @@ struct AssignLocal final : Stmt {
         else if (isSet)
             raise(errc::ObjectRequired);
         f.locals[slot] = std::move(v);
+        return Flow::Normal;
+    }
+};
+
+// global = value: a module variable is written in place; anything else
+// (not yet defined, a constant, a procedure, a host object's member) goes
+// through the runtime, which knows the language's rules for it.
+struct AssignGlobal final : Stmt {
+    struct Global* global;
+    ExprPtr value;
+    bool isSet;
+    const AddExpr* addValue = nullptr;
+    const SubExpr* subValue = nullptr;
+    AssignGlobal(struct Global* g, ExprPtr v, bool set) : global(g), value(std::move(v)), isSet(set)
+    {
+        if (!isSet) {
+            addValue = dynamic_cast<const AddExpr*>(value.get());
+            subValue = dynamic_cast<const SubExpr*>(value.get());
+        }
+    }
+    Flow exec(Frame& f) const override
+    {
+        Global& g = *global;
+        if (g.kind == Global::Variable) {
+            if (addValue && addValue->into(f, g.value))
+                return Flow::Normal;
+            if (subValue && subValue->into(f, g.value))
+                return Flow::Normal;
+        }
+        Value v = value->eval(f);
+        // Checked after the value: evaluating it may have run a script
+        // that changed what the name is.
+        if (g.kind == Global::Variable && v.type() < Type::Object && !isSet) {
+            g.value = std::move(v);
+            return Flow::Normal;
+        }
+        f.rt->writeGlobal(g, std::move(v), isSet);
         return Flow::Normal;
     }
 };
@@ -411,7 +471,7 @@ struct ForStmt final : Stmt {
     Flow exec(Frame& f) const override;
 
 private:
-    std::optional<Flow> runLocalCounter(Frame& f, bool up) const;
+    std::optional<Flow> runCounter(Frame& f, bool up, Value& counter, const struct Global* global) const;
     Flow runGeneral(Frame& f, bool up) const;
 };
 
