@@ -389,7 +389,7 @@ ExprPtr Compiler::expr(SyntaxNode& n)
     }
 }
 
-StmtPtr Compiler::block(SyntaxNode& n)
+std::unique_ptr<Block> Compiler::block(SyntaxNode& n)
 {
     auto b = std::make_unique<Block>();
     b->line = n.line;
@@ -579,8 +579,14 @@ StmtPtr Compiler::redim(SyntaxNode& n)
 
 StmtPtr Compiler::ifStatement(SyntaxNode& n)
 {
-    auto s = std::make_unique<IfStmt>();
     std::size_t pairs = (n.kids.size() - (n.flag ? 1 : 0)) / 2;
+    if (pairs == 1) {
+        ExprPtr condition = expr(*n.kids[0]);
+        auto then = block(*n.kids[1]);
+        auto otherwise = n.flag ? block(*n.kids.back()) : nullptr;
+        return at(std::make_unique<IfThenStmt>(std::move(condition), std::move(then), std::move(otherwise)), n.line);
+    }
+    auto s = std::make_unique<IfStmt>();
     for (std::size_t i = 0; i < pairs; ++i) {
         s->conditions.push_back(expr(*n.kids[2 * i]));
         s->blocks.push_back(block(*n.kids[2 * i + 1]));

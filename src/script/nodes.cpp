@@ -47,7 +47,7 @@ Value numericForLoop(const Value& v)
 
 // One turn of a For or For Each body; the loop's way out when it ends
 // there (Exit For ends the loop itself, nothing beyond it).
-inline std::optional<Flow> turn(const Stmt& body, int forLine, Frame& f)
+inline std::optional<Flow> turn(const Block& body, int forLine, Frame& f)
 {
     Flow fl = body.exec(f);
     if (fl == Flow::ExitFor)
@@ -72,6 +72,10 @@ inline void stepCounter(Value& counter, const Value& by)
 
 }  // namespace
 
+namespace {
+const Global::Kind kAlwaysThere = Global::Constant;
+}  // namespace
+
 Operand::Operand(ExprPtr e) : expr(std::move(e))
 {
     if (auto* l = dynamic_cast<LocalGet*>(expr.get())) {
@@ -81,11 +85,13 @@ Operand::Operand(ExprPtr e) : expr(std::move(e))
         kind = Kind::RefParam;
         slot = r->slot;
     } else if (auto* k = dynamic_cast<Literal*>(expr.get())) {
-        kind = Kind::Constant;
-        constant = &k->value;
+        kind = Kind::Fixed;
+        fixed = &k->value;
+        fixedKind = &kAlwaysThere;
     } else if (auto* g = dynamic_cast<GlobalGet*>(expr.get())) {
-        kind = Kind::Global;
-        global = g->global;
+        kind = Kind::Fixed;
+        fixed = &g->global->value;
+        fixedKind = &g->global->kind;
     }
 }
 
@@ -138,6 +144,19 @@ Value* GlobalGet::reference(Frame& f) const
         return &global->value;
     }
     return nullptr;
+}
+
+bool CompareExpr::testAny(Frame& f) const
+{
+    QOR_OPERANDS(f);
+    if (a.isInteger() && b.isInteger())
+        return intCompare(op, a.asInt(), b.asInt());
+    // Two numbers, one a Double: compared as numbers, as compare would.
+    double x, y;
+    if (asPlainNumber(a, x) && asPlainNumber(b, y))
+        return compareNumbers(op, x, y);
+    Value r = compare(op, a, b, literals);
+    return r.type() == Type::Boolean && r.asBool();
 }
 
 Value UnaryExpr::eval(Frame& f) const
@@ -324,7 +343,7 @@ std::optional<Flow> ForStmt::runCounter(Frame& f, bool up, Value& counter, const
     const Value& by = f.locals[stepSlot];
     const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
     const bool integerStep = by.type() == Type::Integer;
-    const Stmt& statements = *body;
+    const Block& statements = *body;
     const int forLine = line;
     for (;;) {
         if (!counter.isInteger())

@@ -58,7 +58,7 @@ struct GlobalGet final : Expr {
     explicit GlobalGet(struct Global* g) : global(g) {}
     Value eval(Frame& f) const override
     {
-        if (global->kind != Global::Undefined && global->kind != Global::Proc)
+        if (global->holdsValue())
             return global->value;
         return f.rt->readGlobal(*global, f);
     }
@@ -103,12 +103,14 @@ struct BinaryExpr final : Expr {
 // a module variable is read in place, without a virtual call or a copy;
 // anything else is evaluated.
 struct Operand {
-    enum class Kind : std::uint8_t { Local, RefParam, Constant, Global, Other };
+    enum class Kind : std::uint8_t { Local, RefParam, Fixed, Other };
     ExprPtr expr;
     Kind kind = Kind::Other;
     int slot = -1;
-    const Value* constant = nullptr;
-    const struct Global* global = nullptr;
+    // A literal or a module variable: where its value lies, and the kind
+    // of name that says whether it is there now (always for a literal).
+    const Value* fixed = nullptr;
+    const Global::Kind* fixedKind = nullptr;
 
     explicit Operand(ExprPtr e);
     // The value where it lies when reading it runs no code; null when it
@@ -116,13 +118,12 @@ struct Operand {
     // yet defined: those may run a script or ask the host).
     const Value* peek(Frame& f) const
     {
-        switch (kind) {
-        case Kind::Local: return &f.locals[slot];
-        case Kind::RefParam: return &std::as_const(f.locals[slot]).deref();
-        case Kind::Constant: return constant;
-        case Kind::Global: return global->kind >= Global::Variable && global->kind != Global::Proc ? &global->value : nullptr;
-        case Kind::Other: break;
-        }
+        if (kind == Kind::Local)
+            return &f.locals[slot];
+        if (kind == Kind::Fixed)
+            return *fixedKind >= Global::Variable ? fixed : nullptr;
+        if (kind == Kind::RefParam)
+            return &std::as_const(f.locals[slot]).deref();
         return nullptr;
     }
     const Value& get(Frame& f, Value& tmp) const
@@ -250,18 +251,22 @@ struct CompareExpr final : Expr {
         }
         return false;
     }
+    // Two numbers read in place are compared here; the rest (strings,
+    // dates, objects, a side that runs code) in testAny.
     bool test(Frame& f) const override
     {
-        QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger())
-            return intCompare(op, a.asInt(), b.asInt());
-        // Two numbers, one a Double: compared as numbers, as compare would.
-        double x, y;
-        if (asPlainNumber(a, x) && asPlainNumber(b, y))
-            return compareNumbers(op, x, y);
-        Value r = compare(op, a, b, literals);
-        return r.type() == Type::Boolean && r.asBool();
+        if (const Value* pa = left.peek(f)) {
+            if (const Value* pb = right.peek(f)) {
+                if (pa->isInteger() && pb->isInteger())
+                    return intCompare(op, pa->asInt(), pb->asInt());
+                double x, y;
+                if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
+                    return compareNumbers(op, x, y);
+            }
+        }
+        return testAny(f);
     }
+    bool testAny(Frame& f) const;
 };
 
 struct ConcatExpr final : Expr {
@@ -317,12 +322,15 @@ struct MemberExpr final : Expr {
 
 // Statements
 
+// A statement list. The loops and If hold theirs as a Block, so that
+// running it is a direct call.
 struct Block final : Stmt {
     std::vector<StmtPtr> body;
     Flow exec(Frame& f) const override
     {
+        Runtime& rt = *f.rt;
         for (const auto& s : body) {
-            f.rt->line = s->line;
+            rt.line = s->line;
             Flow fl = f.resumeNext ? guarded(*s, f) : s->exec(f);
             if (fl != Flow::Normal)
                 return fl;
@@ -461,12 +469,32 @@ struct IfStmt final : Stmt {
     }
 };
 
+// If with one condition (and maybe Else), the usual shape, without the
+// walk over a list of conditions.
+struct IfThenStmt final : Stmt {
+    ExprPtr condition;
+    const CompareExpr* comparison = nullptr;  // the condition when it is one: called directly
+    std::unique_ptr<Block> then, otherwise;   // otherwise may be null
+    IfThenStmt(ExprPtr c, std::unique_ptr<Block> t, std::unique_ptr<Block> e)
+        : condition(std::move(c)), comparison(dynamic_cast<const CompareExpr*>(condition.get())), then(std::move(t)),
+          otherwise(std::move(e))
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        bool holds = f.resumeNext ? testResuming(*condition, f) : comparison ? comparison->test(f) : condition->test(f);
+        if (holds)
+            return then->exec(f);
+        return otherwise ? otherwise->exec(f) : Flow::Normal;
+    }
+};
+
 // For var = start To limit Step step: the limit and the step are worked
 // out once, into hidden slots.
 struct ForStmt final : Stmt {
     VarRef var;
     ExprPtr start, limit, step;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     int limitSlot, stepSlot;
     Flow exec(Frame& f) const override;
 
@@ -478,7 +506,7 @@ private:
 struct ForEachStmt final : Stmt {
     VarRef var;
     ExprPtr collection;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     Flow exec(Frame& f) const override;
 };
 
@@ -487,7 +515,7 @@ struct DoStmt final : Stmt {
     bool whileWend;
     int conditionLine;
     ExprPtr condition;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     Flow exec(Frame& f) const override;
 };
 
