@@ -269,6 +269,31 @@ Flow Block::guarded(const Stmt& s, Frame& f)
     return resumeOnError(f, Flow::Normal, [&] { return s.exec(f); });
 }
 
+Flow AssignLocal::assign(Frame& f) const
+{
+    Value v = value->eval(f);
+    if (v.type() >= Type::Object)
+        v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
+    else if (isSet)
+        raise(errc::ObjectRequired);
+    f.locals[slot] = std::move(v);
+    return Flow::Normal;
+}
+
+Flow AssignGlobal::assign(Frame& f) const
+{
+    Global& g = *global;
+    Value v = value->eval(f);
+    // Checked after the value: evaluating it may have run a script
+    // that changed what the name is.
+    if (g.kind == Global::Variable && v.type() < Type::Object && !isSet) {
+        g.value = std::move(v);
+        return Flow::Normal;
+    }
+    f.rt->writeGlobal(g, std::move(v), isSet);
+    return Flow::Normal;
+}
+
 Flow AssignVar::exec(Frame& f) const
 {
     Value v = value->eval(f);

@@ -363,20 +363,15 @@ struct AssignLocal final : Stmt {
             subValue = dynamic_cast<const SubExpr*>(value.get());
         }
     }
+    // The sums here, the rest in assign: the hot path stays small enough
+    // to need no saved registers.
     Flow exec(Frame& f) const override
     {
-        if (addValue && addValue->into(f, f.locals[slot]))
+        if (addValue ? addValue->into(f, f.locals[slot]) : subValue && subValue->into(f, f.locals[slot]))
             return Flow::Normal;
-        if (subValue && subValue->into(f, f.locals[slot]))
-            return Flow::Normal;
-        Value v = value->eval(f);
-        if (v.type() >= Type::Object)
-            v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
-        else if (isSet)
-            raise(errc::ObjectRequired);
-        f.locals[slot] = std::move(v);
-        return Flow::Normal;
+        return assign(f);
     }
+    Flow assign(Frame& f) const;
 };
 
 // global = value: a module variable is written in place; anything else
@@ -398,22 +393,12 @@ struct AssignGlobal final : Stmt {
     Flow exec(Frame& f) const override
     {
         Global& g = *global;
-        if (g.kind == Global::Variable) {
-            if (addValue && addValue->into(f, g.value))
-                return Flow::Normal;
-            if (subValue && subValue->into(f, g.value))
-                return Flow::Normal;
-        }
-        Value v = value->eval(f);
-        // Checked after the value: evaluating it may have run a script
-        // that changed what the name is.
-        if (g.kind == Global::Variable && v.type() < Type::Object && !isSet) {
-            g.value = std::move(v);
+        if (g.kind == Global::Variable &&
+            (addValue ? addValue->into(f, g.value) : subValue && subValue->into(f, g.value)))
             return Flow::Normal;
-        }
-        f.rt->writeGlobal(g, std::move(v), isSet);
-        return Flow::Normal;
+        return assign(f);
     }
+    Flow assign(Frame& f) const;
 };
 
 struct AssignVar final : Stmt {
@@ -483,9 +468,7 @@ struct IfThenStmt final : Stmt {
     Flow exec(Frame& f) const override
     {
         bool holds = f.resumeNext ? testResuming(*condition, f) : comparison ? comparison->test(f) : condition->test(f);
-        if (holds)
-            return then->exec(f);
-        return otherwise ? otherwise->exec(f) : Flow::Normal;
+        return holds ? then->exec(f) : otherwise ? otherwise->exec(f) : Flow::Normal;
     }
 };
 
