@@ -1,5 +1,6 @@
 #include "script/value.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -14,6 +15,58 @@ namespace qor::script {
 namespace {
 thread_local MemoryLimits tLimits;
 thread_local std::size_t tLiveStringBytes = 0;
+
+// Short strings come and go by the million in a loop that joins or cuts
+// text: their blocks are kept for reuse instead of going back to the C
+// library, whose allocator is slow on some systems (Windows' heap under
+// wine takes twice as long as the loop's own work). All blocks of a short
+// string have one size, so a block fits any short string.
+constexpr std::size_t kShortBlock = 64;
+constexpr std::size_t kShortMax = kShortBlock - offsetof(StringRep, data) - 1;
+constexpr int kKeptBlocks = 256;
+
+class ShortBlocks {
+public:
+    ShortBlocks() = default;
+    ShortBlocks(const ShortBlocks&) = delete;
+    ShortBlocks& operator=(const ShortBlocks&) = delete;
+    ~ShortBlocks()
+    {
+        while (head_) {
+            Free* next = head_->next;
+            std::free(head_);
+            head_ = next;
+        }
+    }
+    void* take()
+    {
+        if (!head_)
+            return std::malloc(kShortBlock);
+        Free* b = head_;
+        head_ = b->next;
+        --count_;
+        return b;
+    }
+    void give(void* p)
+    {
+        if (count_ == kKeptBlocks) {
+            std::free(p);
+            return;
+        }
+        auto* b = static_cast<Free*>(p);
+        b->next = head_;
+        head_ = b;
+        ++count_;
+    }
+
+private:
+    struct Free {
+        Free* next;
+    };
+    Free* head_ = nullptr;
+    int count_ = 0;
+};
+thread_local ShortBlocks tShortBlocks;
 }  // namespace
 
 MemoryLimits& memoryLimits() { return tLimits; }
@@ -122,7 +175,7 @@ StringRep* StringRep::allocate(std::size_t size)
         raise(errc::OutOfStringSpace);
     if (tLiveStringBytes + size > tLimits.maxLiveStringBytes)
         raise(errc::OutOfMemory);
-    void* p = std::malloc(offsetof(StringRep, data) + size + 1);
+    void* p = size <= kShortMax ? tShortBlocks.take() : std::malloc(offsetof(StringRep, data) + size + 1);
     if (!p)
         raise(errc::OutOfMemory);
     auto* rep = static_cast<StringRep*>(p);
@@ -145,7 +198,10 @@ StringRep* StringRep::make(std::string_view text)
 void StringRep::destroy(StringRep* rep)
 {
     tLiveStringBytes -= rep->size;
-    std::free(rep);
+    if (rep->size <= kShortMax)
+        tShortBlocks.give(rep);
+    else
+        std::free(rep);
 }
 
 std::int32_t StringRep::charCount()
