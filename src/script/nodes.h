@@ -460,15 +460,24 @@ struct IfThenStmt final : Stmt {
     ExprPtr condition;
     const CompareExpr* comparison = nullptr;  // the condition when it is one: called directly
     std::unique_ptr<Block> then, otherwise;   // otherwise may be null
+    const Stmt* single = nullptr;             // the Then block's statement when it is alone: If x Then y
     IfThenStmt(ExprPtr c, std::unique_ptr<Block> t, std::unique_ptr<Block> e)
         : condition(std::move(c)), comparison(dynamic_cast<const CompareExpr*>(condition.get())), then(std::move(t)),
-          otherwise(std::move(e))
+          otherwise(std::move(e)), single(then->body.size() == 1 ? then->body[0].get() : nullptr)
     {
     }
     Flow exec(Frame& f) const override
     {
-        bool holds = f.resumeNext ? testResuming(*condition, f) : comparison ? comparison->test(f) : condition->test(f);
-        return holds ? then->exec(f) : otherwise ? otherwise->exec(f) : Flow::Normal;
+        if (f.resumeNext) {
+            if (testResuming(*condition, f))
+                return then->exec(f);
+        } else if (comparison ? comparison->test(f) : condition->test(f)) {
+            if (!single)
+                return then->exec(f);
+            f.rt->line = single->line;
+            return single->exec(f);
+        }
+        return otherwise ? otherwise->exec(f) : Flow::Normal;
     }
 };
 
