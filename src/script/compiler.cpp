@@ -443,12 +443,12 @@ StmtPtr Compiler::assignment(SyntaxNode& n)
         Resolved r = resolve(target.name, false);
         ExprPtr value = expr(*n.kids[1]);
         if (r.kind == NameKind::Local)
-            return at(std::make_unique<AssignLocal>(r.slot, std::move(value), n.flag), line);
+            return at(assignLocal(r.slot, std::move(value), n.flag), line);
         if (r.kind == NameKind::Constant)
             return illegalAssignment(target.name, line);
         VarRef var = variable(target.name, line);
         if (var.kind == VarRef::Global)
-            return at(std::make_unique<AssignGlobal>(var.global, std::move(value), n.flag), line);
+            return at(assignGlobal(var.global, std::move(value), n.flag), line);
         return at(std::make_unique<AssignVar>(var, std::move(value), n.flag), line);
     }
     case Syn::Member:

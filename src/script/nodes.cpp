@@ -146,6 +146,197 @@ Value* GlobalGet::reference(Frame& f) const
     return nullptr;
 }
 
+namespace {
+using OperandKind = Operand::Kind;
+
+// Operand::peek for an operand whose kind is known when the code is built.
+template <OperandKind Kind>
+inline const Value* peekAs(const Operand& o, Frame& f)
+{
+    if constexpr (Kind == OperandKind::Local)
+        return &f.locals[o.slot];
+    else
+        return *o.fixedKind >= Global::Variable ? o.fixed : nullptr;
+}
+
+template <bool Subtract>
+bool sumAny(const Expr& e, Frame& f, Value& out)
+{
+    return static_cast<const AddSubExpr<Subtract>&>(e).into(f, out);
+}
+
+// Where an operand of known kind lies: a local's slot, or a literal's or
+// module variable's value with the kind that says whether it is there.
+struct Place {
+    int slot;
+    const Value* fixed;
+    const Global::Kind* kind;
+    explicit Place(const Operand& o) : slot(o.slot), fixed(o.fixed), kind(o.fixedKind) {}
+    template <OperandKind Kind>
+    const Value* peek(Frame& f) const
+    {
+        if constexpr (Kind == OperandKind::Local)
+            return &f.locals[slot];
+        else
+            return *kind >= Global::Variable ? fixed : nullptr;
+    }
+};
+
+// x = a + b (or a - b) as one statement when both operands are locals,
+// literals or module variables: the sum is computed here, into x, and
+// anything but two numbers goes the general assignment's way.
+template <bool Subtract, OperandKind L, OperandKind R>
+struct SumToLocal final : Stmt {
+    AssignLocal general;
+    Place left, right;
+    SumToLocal(const AddSubExpr<Subtract>& sum, int slot, ExprPtr value)
+        : general(slot, std::move(value), false), left(sum.left), right(sum.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        const Value* a = left.peek<L>(f);
+        const Value* b = right.peek<R>(f);
+        if (a && b && AddSubExpr<Subtract>::combineInto(*a, *b, f.locals[general.slot]))
+            return Flow::Normal;
+        return general.assign(f);
+    }
+};
+
+template <bool Subtract, OperandKind L, OperandKind R>
+struct SumToGlobal final : Stmt {
+    AssignGlobal general;
+    Place left, right;
+    SumToGlobal(const AddSubExpr<Subtract>& sum, Global* global, ExprPtr value)
+        : general(global, std::move(value), false), left(sum.left), right(sum.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        Global& g = *general.global;
+        if (g.kind == Global::Variable) {
+            const Value* a = left.peek<L>(f);
+            const Value* b = right.peek<R>(f);
+            if (a && b && AddSubExpr<Subtract>::combineInto(*a, *b, g.value))
+                return Flow::Normal;
+        }
+        return general.assign(f);
+    }
+};
+
+template <template <bool, OperandKind, OperandKind> class Node, bool Subtract, class Target>
+StmtPtr sumStatement(const AddSubExpr<Subtract>& sum, Target target, ExprPtr& value)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    const OperandKind l = sum.left.kind, r = sum.right.kind;
+    if (l == Local && r == Local)
+        return std::make_unique<Node<Subtract, Local, Local>>(sum, target, std::move(value));
+    if (l == Local && r == Fixed)
+        return std::make_unique<Node<Subtract, Local, Fixed>>(sum, target, std::move(value));
+    if (l == Fixed && r == Local)
+        return std::make_unique<Node<Subtract, Fixed, Local>>(sum, target, std::move(value));
+    if (l == Fixed && r == Fixed)
+        return std::make_unique<Node<Subtract, Fixed, Fixed>>(sum, target, std::move(value));
+    return nullptr;
+}
+
+template <template <bool, OperandKind, OperandKind> class Node, class Target>
+StmtPtr sumStatement(Target target, ExprPtr& value)
+{
+    if (auto* a = dynamic_cast<const AddExpr*>(value.get()))
+        return sumStatement<Node>(*a, target, value);
+    if (auto* s = dynamic_cast<const SubExpr*>(value.get()))
+        return sumStatement<Node>(*s, target, value);
+    return nullptr;
+}
+
+template <Compare Op, OperandKind L, OperandKind R>
+bool testOf(const CompareExpr& c, Frame& f)
+{
+    const Value* pa = peekAs<L>(c.left, f);
+    const Value* pb = peekAs<R>(c.right, f);
+    if (pa && pb) {
+        if (pa->isInteger() && pb->isInteger())
+            return CompareExpr::compareNumbers(Op, pa->asInt(), pb->asInt());
+        double x, y;
+        if (pa->type() == Type::Double && pb->type() == Type::Double)
+            return CompareExpr::compareNumbers(Op, pa->asDouble(), pb->asDouble());
+        if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
+            return CompareExpr::compareNumbers(Op, x, y);
+    }
+    return c.testAny(f);
+}
+
+bool testPeek(const CompareExpr& c, Frame& f)
+{
+    if (const Value* pa = c.left.peek(f)) {
+        if (const Value* pb = c.right.peek(f)) {
+            if (pa->isInteger() && pb->isInteger())
+                return CompareExpr::intCompare(c.op, pa->asInt(), pb->asInt());
+            double x, y;
+            if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
+                return CompareExpr::compareNumbers(c.op, x, y);
+        }
+    }
+    return c.testAny(f);
+}
+
+template <Compare Op>
+CompareExpr::TestFn testFor(OperandKind l, OperandKind r)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    if (l == Local && r == Local)
+        return testOf<Op, Local, Local>;
+    if (l == Local && r == Fixed)
+        return testOf<Op, Local, Fixed>;
+    if (l == Fixed && r == Local)
+        return testOf<Op, Fixed, Local>;
+    if (l == Fixed && r == Fixed)
+        return testOf<Op, Fixed, Fixed>;
+    return testPeek;
+}
+}  // namespace
+
+SumInto sumInto(const Expr* value)
+{
+    if (dynamic_cast<const AddExpr*>(value))
+        return sumAny<false>;
+    if (dynamic_cast<const SubExpr*>(value))
+        return sumAny<true>;
+    return nullptr;
+}
+
+StmtPtr assignLocal(int slot, ExprPtr value, bool set)
+{
+    if (!set) {
+        if (StmtPtr s = sumStatement<SumToLocal>(slot, value))
+            return s;
+    }
+    return std::make_unique<AssignLocal>(slot, std::move(value), set);
+}
+
+StmtPtr assignGlobal(Global* global, ExprPtr value, bool set)
+{
+    if (!set) {
+        if (StmtPtr s = sumStatement<SumToGlobal>(global, value))
+            return s;
+    }
+    return std::make_unique<AssignGlobal>(global, std::move(value), set);
+}
+
+CompareExpr::TestFn CompareExpr::chooseTest(Compare op, OperandKind l, OperandKind r)
+{
+    switch (op) {
+    case Compare::Eq: return testFor<Compare::Eq>(l, r);
+    case Compare::Ne: return testFor<Compare::Ne>(l, r);
+    case Compare::Lt: return testFor<Compare::Lt>(l, r);
+    case Compare::Le: return testFor<Compare::Le>(l, r);
+    case Compare::Gt: return testFor<Compare::Gt>(l, r);
+    case Compare::Ge: return testFor<Compare::Ge>(l, r);
+    }
+    return testPeek;
+}
+
 bool CompareExpr::testAny(Frame& f) const
 {
     QOR_OPERANDS(f);

@@ -181,15 +181,45 @@ struct AddSubExpr final : Expr {
     {
         return a.type() == Type::Integer && b.type() == Type::Integer;
     }
-    // A Double with a number gives a Double, as add and subtract would; an
-    // overflow (an infinite result) is left to them to report.
+    // A Double with a number gives a Double, as add and subtract would; the
+    // callers leave an overflow (an infinite result) to them to report.
     static bool combineDouble(const Value& a, const Value& b, double& d)
     {
         double x, y;
         if (!asPlainNumber(a, x) || !asPlainNumber(b, y))
             return false;
         d = Subtract ? x - y : x + y;
-        return d - d == 0;
+        return true;
+    }
+    // out = a + b for two numbers; false, with out untouched, when it
+    // takes the general way. Inlined into each statement that sums in
+    // place (compilers that do not know the hint ignore it).
+    [[gnu::always_inline]] static bool combineInto(const Value& a, const Value& b, Value& out)
+    {
+        double x, y;
+        if (a.isInteger()) {
+            if (b.isInteger())
+                return storeWhole(out, combine(a, b), bothInteger(a, b));
+            if (b.type() != Type::Double)
+                return false;
+            x = a.asInt();
+            y = b.asDouble();
+        } else if (a.type() == Type::Double) {
+            x = a.asDouble();
+            if (b.type() == Type::Double)
+                y = b.asDouble();
+            else if (b.isInteger())
+                y = b.asInt();
+            else
+                return false;
+        } else {
+            return false;
+        }
+        const double d = Subtract ? x - y : x + y;
+        if (d - d != 0)
+            return false;
+        out.setDouble(d);
+        return true;
     }
     // variable = a + b when both operands are read in place, computed into
     // the variable; false, with out untouched, when it takes the general way.
@@ -197,17 +227,7 @@ struct AddSubExpr final : Expr {
     {
         const Value* pa = left.peek(f);
         const Value* pb = pa ? right.peek(f) : nullptr;
-        if (!pb)
-            return false;
-        const Value& a = *pa;
-        const Value& b = *pb;
-        if (a.isInteger() && b.isInteger())
-            return storeWhole(out, combine(a, b), bothInteger(a, b));
-        double d;
-        if (!combineDouble(a, b, d))
-            return false;
-        out = Value::dbl(d);
-        return true;
+        return pb && combineInto(*pa, *pb, out);
     }
     Value eval(Frame& f) const override
     {
@@ -216,7 +236,7 @@ struct AddSubExpr final : Expr {
         if (a.isInteger() && b.isInteger())
             return wholeResult(combine(a, b), bothInteger(a, b));
         double d;
-        if (combineDouble(a, b, d))
+        if (combineDouble(a, b, d) && d - d == 0)
             return Value::dbl(d);
         return Subtract ? subtract(a, b) : add(a, b);
     }
@@ -224,12 +244,25 @@ struct AddSubExpr final : Expr {
 using AddExpr = AddSubExpr<false>;
 using SubExpr = AddSubExpr<true>;
 
+// variable = a + b or a - b computed into the variable without a virtual
+// call; null when the value is no sum. False, with the variable untouched,
+// when it takes the general way.
+using SumInto = bool (*)(const Expr& sum, Frame& f, Value& out);
+SumInto sumInto(const Expr* value);
+
 struct CompareExpr final : Expr {
+    // The condition's test, chosen like SumInto for the operator and the
+    // shape of the operands.
+    using TestFn = bool (*)(const CompareExpr&, Frame&);
     Compare op;
     std::uint8_t literals;
     Operand left, right;
+    TestFn fast;
     CompareExpr(Compare o, std::uint8_t lit, ExprPtr a, ExprPtr b)
-        : op(o), literals(lit), left(std::move(a)), right(std::move(b)) {}
+        : op(o), literals(lit), left(std::move(a)), right(std::move(b)), fast(chooseTest(o, left.kind, right.kind))
+    {
+    }
+    static TestFn chooseTest(Compare op, Operand::Kind l, Operand::Kind r);
     static bool intCompare(Compare op, std::int32_t x, std::int32_t y) { return compareNumbers(op, x, y); }
     Value eval(Frame& f) const override
     {
@@ -251,21 +284,9 @@ struct CompareExpr final : Expr {
         }
         return false;
     }
-    // Two numbers read in place are compared here; the rest (strings,
+    // Two numbers read in place are compared by fast; the rest (strings,
     // dates, objects, a side that runs code) in testAny.
-    bool test(Frame& f) const override
-    {
-        if (const Value* pa = left.peek(f)) {
-            if (const Value* pb = right.peek(f)) {
-                if (pa->isInteger() && pb->isInteger())
-                    return intCompare(op, pa->asInt(), pb->asInt());
-                double x, y;
-                if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
-                    return compareNumbers(op, x, y);
-            }
-        }
-        return testAny(f);
-    }
+    bool test(Frame& f) const override { return fast(*this, f); }
     bool testAny(Frame& f) const;
 };
 
@@ -354,20 +375,17 @@ struct AssignLocal final : Stmt {
     int slot;
     ExprPtr value;
     bool isSet;
-    const AddExpr* addValue = nullptr;  // counters: x = x + 1 without a call or a copy
-    const SubExpr* subValue = nullptr;
+    SumInto sum = nullptr;  // counters: x = x + 1 without a virtual call or a copy
     AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set)
     {
-        if (!isSet) {
-            addValue = dynamic_cast<const AddExpr*>(value.get());
-            subValue = dynamic_cast<const SubExpr*>(value.get());
-        }
+        if (!isSet)
+            sum = sumInto(value.get());
     }
     // The sums here, the rest in assign: the hot path stays small enough
     // to need no saved registers.
     Flow exec(Frame& f) const override
     {
-        if (addValue ? addValue->into(f, f.locals[slot]) : subValue && subValue->into(f, f.locals[slot]))
+        if (sum && sum(*value, f, f.locals[slot]))
             return Flow::Normal;
         return assign(f);
     }
@@ -381,25 +399,27 @@ struct AssignGlobal final : Stmt {
     struct Global* global;
     ExprPtr value;
     bool isSet;
-    const AddExpr* addValue = nullptr;
-    const SubExpr* subValue = nullptr;
+    SumInto sum = nullptr;
     AssignGlobal(struct Global* g, ExprPtr v, bool set) : global(g), value(std::move(v)), isSet(set)
     {
-        if (!isSet) {
-            addValue = dynamic_cast<const AddExpr*>(value.get());
-            subValue = dynamic_cast<const SubExpr*>(value.get());
-        }
+        if (!isSet)
+            sum = sumInto(value.get());
     }
     Flow exec(Frame& f) const override
     {
         Global& g = *global;
-        if (g.kind == Global::Variable &&
-            (addValue ? addValue->into(f, g.value) : subValue && subValue->into(f, g.value)))
+        if (g.kind == Global::Variable && sum && sum(*value, f, g.value))
             return Flow::Normal;
         return assign(f);
     }
     Flow assign(Frame& f) const;
 };
+
+// The assignments the compiler builds: a sum of two operands read in place
+// (x = x + 1, s = s + i, at the top level too) becomes one statement for
+// the shape of its operands, which adds without calling the expression.
+StmtPtr assignLocal(int slot, ExprPtr value, bool set);
+StmtPtr assignGlobal(struct Global* global, ExprPtr value, bool set);
 
 struct AssignVar final : Stmt {
     VarRef var;

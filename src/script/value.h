@@ -45,6 +45,13 @@ public:
         }
         return *this;
     }
+    // Stores a Double in place: what the arithmetic fast paths write.
+    void setDouble(double d) noexcept
+    {
+        if (counted(type_)) release();
+        type_ = Type::Double;
+        d_ = d;
+    }
     void swap(Value& other) noexcept
     {
         std::swap(type_, other.type_);
