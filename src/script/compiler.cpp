@@ -584,7 +584,7 @@ StmtPtr Compiler::ifStatement(SyntaxNode& n)
         ExprPtr condition = expr(*n.kids[0]);
         auto then = block(*n.kids[1]);
         auto otherwise = n.flag ? block(*n.kids.back()) : nullptr;
-        return at(std::make_unique<IfThenStmt>(std::move(condition), std::move(then), std::move(otherwise)), n.line);
+        return at(ifThen(std::move(condition), std::move(then), std::move(otherwise)), n.line);
     }
     auto s = std::make_unique<IfStmt>();
     for (std::size_t i = 0; i < pairs; ++i) {

@@ -297,6 +297,58 @@ CompareExpr::TestFn testFor(OperandKind l, OperandKind r)
 }
 }  // namespace
 
+// If a < b Then ... with both sides locals, literals or module variables:
+// two numbers are compared here, without calling the condition; anything
+// else (strings, dates, On Error Resume Next) is the general If's.
+template <Compare Op, OperandKind L, OperandKind R>
+struct IfCompare final : Stmt {
+    IfThenStmt general;
+    Place left, right;
+    IfCompare(const CompareExpr& c, ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise)
+        : general(std::move(condition), std::move(then), std::move(otherwise)), left(c.left), right(c.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        if (f.resumeNext)
+            return general.exec(f);
+        const Value* a = left.peek<L>(f);
+        const Value* b = right.peek<R>(f);
+        bool yes;
+        if (a && b && a->isInteger() && b->isInteger())
+            yes = CompareExpr::compareNumbers(Op, a->asInt(), b->asInt());
+        else if (a && b && a->type() == Type::Double && b->type() == Type::Double)
+            yes = CompareExpr::compareNumbers(Op, a->asDouble(), b->asDouble());
+        else
+            yes = general.comparison->test(f);
+        if (yes) {
+            if (const Stmt* single = general.single) {
+                f.rt->line = single->line;
+                return single->exec(f);
+            }
+            return general.then->exec(f);
+        }
+        return general.otherwise ? general.otherwise->exec(f) : Flow::Normal;
+    }
+};
+
+template <Compare Op>
+StmtPtr ifCompare(const CompareExpr& c, ExprPtr& condition, std::unique_ptr<Block>& then,
+                  std::unique_ptr<Block>& otherwise)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    const OperandKind l = c.left.kind, r = c.right.kind;
+    if (l == Local && r == Local)
+        return std::make_unique<IfCompare<Op, Local, Local>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Local && r == Fixed)
+        return std::make_unique<IfCompare<Op, Local, Fixed>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Fixed && r == Local)
+        return std::make_unique<IfCompare<Op, Fixed, Local>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Fixed && r == Fixed)
+        return std::make_unique<IfCompare<Op, Fixed, Fixed>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    return nullptr;
+}
+
 SumInto sumInto(const Expr* value)
 {
     if (dynamic_cast<const AddExpr*>(value))
@@ -313,6 +365,24 @@ StmtPtr assignLocal(int slot, ExprPtr value, bool set)
             return s;
     }
     return std::make_unique<AssignLocal>(slot, std::move(value), set);
+}
+
+StmtPtr ifThen(ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise)
+{
+    StmtPtr s;
+    if (auto* c = dynamic_cast<const CompareExpr*>(condition.get())) {
+        switch (c->op) {
+        case Compare::Eq: s = ifCompare<Compare::Eq>(*c, condition, then, otherwise); break;
+        case Compare::Ne: s = ifCompare<Compare::Ne>(*c, condition, then, otherwise); break;
+        case Compare::Lt: s = ifCompare<Compare::Lt>(*c, condition, then, otherwise); break;
+        case Compare::Le: s = ifCompare<Compare::Le>(*c, condition, then, otherwise); break;
+        case Compare::Gt: s = ifCompare<Compare::Gt>(*c, condition, then, otherwise); break;
+        case Compare::Ge: s = ifCompare<Compare::Ge>(*c, condition, then, otherwise); break;
+        }
+    }
+    if (s)
+        return s;
+    return std::make_unique<IfThenStmt>(std::move(condition), std::move(then), std::move(otherwise));
 }
 
 StmtPtr assignGlobal(Global* global, ExprPtr value, bool set)
@@ -540,9 +610,10 @@ Flow ForStmt::exec(Frame& f) const
     if (to.isInteger() && by.isInteger()) {
         std::optional<Flow> done;
         if (var.kind == VarRef::Local)
-            done = runCounter(f, up, f.locals[var.slot], nullptr);
+            done = up ? runCounter<true>(f, f.locals[var.slot], nullptr) : runCounter<false>(f, f.locals[var.slot], nullptr);
         else if (var.kind == VarRef::Global && var.global->kind == Global::Variable)
-            done = runCounter(f, up, var.global->value, var.global);
+            done = up ? runCounter<true>(f, var.global->value, var.global)
+                      : runCounter<false>(f, var.global->value, var.global);
         if (done)
             return *done;
     }
@@ -554,18 +625,19 @@ Flow ForStmt::exec(Frame& f) const
 // counter: the general loop finishes the work. A module counter is
 // watched: a script run from the body may make its name something else
 // than a variable, and the general loop's step then reports it.
-std::optional<Flow> ForStmt::runCounter(Frame& f, bool up, Value& counter, const struct Global* global) const
+template <bool Up>
+std::optional<Flow> ForStmt::runCounter(Frame& f, Value& counter, const struct Global* global) const
 {
+    if (!counter.isInteger())
+        return std::nullopt;
     const Value& by = f.locals[stepSlot];
     const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
     const bool integerStep = by.type() == Type::Integer;
     const Block& statements = *body;
     const int forLine = line;
     for (;;) {
-        if (!counter.isInteger())
-            return std::nullopt;
-        std::int32_t c = counter.asInt();
-        if (up ? c > to : c < to)
+        const std::int32_t c = counter.asInt();
+        if (Up ? c > to : c < to)
             return Flow::Normal;
         if (std::optional<Flow> done = turn(statements, forLine, f))
             return done;
@@ -577,7 +649,12 @@ std::optional<Flow> ForStmt::runCounter(Frame& f, bool up, Value& counter, const
             stepCounter(counter, by);
             return std::nullopt;
         }
-        counter = wholeResult(std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep);
+        // Past 32 bits the counter is a Double, which the general loop
+        // compares with the limit.
+        if (!storeWhole(counter, std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep)) {
+            counter.setDouble(double(std::int64_t(counter.asInt()) + step));
+            return std::nullopt;
+        }
     }
 }
 

@@ -501,6 +501,11 @@ struct IfThenStmt final : Stmt {
     }
 };
 
+// The If with one condition the compiler builds: a comparison of two
+// operands read in place becomes one statement for its operator and the
+// shape of its operands.
+StmtPtr ifThen(ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise);
+
 // For var = start To limit Step step: the limit and the step are worked
 // out once, into hidden slots.
 struct ForStmt final : Stmt {
@@ -511,7 +516,8 @@ struct ForStmt final : Stmt {
     Flow exec(Frame& f) const override;
 
 private:
-    std::optional<Flow> runCounter(Frame& f, bool up, Value& counter, const struct Global* global) const;
+    template <bool Up>
+    std::optional<Flow> runCounter(Frame& f, Value& counter, const struct Global* global) const;
     Flow runGeneral(Frame& f, bool up) const;
 };
 
