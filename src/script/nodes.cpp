@@ -1,6 +1,7 @@
 #include "script/nodes.h"
 
 #include <cmath>
+#include <new>
 
 #include "text/cp1252.h"
 #include "text/text_helpers.h"
@@ -11,15 +12,25 @@ namespace qor::script {
 namespace {
 
 // Evaluates arguments into values; missing ones stay marked for builtins.
+// A few arguments live on the stack, and only the slots used are built:
+// a builtin call in a loop costs no more than its arguments.
 class ArgValues {
 public:
     ArgValues(const ExprList& args, Frame& f)
     {
-        std::size_t n = args.size();
-        data_ = n <= kInline ? inline_ : (heap_.resize(n), heap_.data());
+        const std::size_t n = args.size();
+        if (n > kInline) {
+            heap_.resize(n);
+            for (std::size_t i = 0; i < n; ++i)
+                heap_[i] = args[i]->eval(f);
+            data_ = heap_.data();
+            size_ = n;
+            return;
+        }
+        data_ = inline_.values();
+        for (; inline_.built < n; ++inline_.built)
+            new (data_ + inline_.built) Value(args[inline_.built]->eval(f));
         size_ = n;
-        for (std::size_t i = 0; i < n; ++i)
-            data_[i] = args[i]->eval(f);
     }
     std::span<Value> span() { return {data_, size_}; }
     void dropMissing()
@@ -31,7 +42,19 @@ public:
 
 private:
     static constexpr std::size_t kInline = 6;
-    Value inline_[kInline];
+    // Raw slots; the ones built are destroyed with it, also when an
+    // argument fails half-way.
+    struct Slots {
+        alignas(Value) unsigned char raw[kInline * sizeof(Value)];
+        std::size_t built = 0;
+        Value* values() { return reinterpret_cast<Value*>(raw); }
+        ~Slots()
+        {
+            for (std::size_t i = 0; i < built; ++i)
+                values()[i].~Value();
+        }
+    };
+    Slots inline_;
     std::vector<Value> heap_;
     Value* data_;
     std::size_t size_;
