@@ -58,7 +58,7 @@ using StmtPtr = std::unique_ptr<Stmt>;
 struct Procedure {
     std::string name;
     bool isFunction = false;
-    std::vector<bool> byRef;
+    std::vector<std::uint8_t> byRef;  // one flag a parameter (not vector<bool>: read on every call)
     int localCount = 0;   // parameters first, then the return value, then locals
     int returnSlot = -1;
     StmtPtr body;

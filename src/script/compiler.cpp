@@ -389,7 +389,7 @@ ExprPtr Compiler::expr(SyntaxNode& n)
     }
 }
 
-StmtPtr Compiler::block(SyntaxNode& n)
+std::unique_ptr<Block> Compiler::block(SyntaxNode& n)
 {
     auto b = std::make_unique<Block>();
     b->line = n.line;
@@ -443,10 +443,13 @@ StmtPtr Compiler::assignment(SyntaxNode& n)
         Resolved r = resolve(target.name, false);
         ExprPtr value = expr(*n.kids[1]);
         if (r.kind == NameKind::Local)
-            return at(std::make_unique<AssignLocal>(r.slot, std::move(value), n.flag), line);
+            return at(assignLocal(r.slot, std::move(value), n.flag), line);
         if (r.kind == NameKind::Constant)
             return illegalAssignment(target.name, line);
-        return at(std::make_unique<AssignVar>(variable(target.name, line), std::move(value), n.flag), line);
+        VarRef var = variable(target.name, line);
+        if (var.kind == VarRef::Global)
+            return at(assignGlobal(var.global, std::move(value), n.flag), line);
+        return at(std::make_unique<AssignVar>(var, std::move(value), n.flag), line);
     }
     case Syn::Member:
     case Syn::WithMember:
@@ -576,8 +579,14 @@ StmtPtr Compiler::redim(SyntaxNode& n)
 
 StmtPtr Compiler::ifStatement(SyntaxNode& n)
 {
-    auto s = std::make_unique<IfStmt>();
     std::size_t pairs = (n.kids.size() - (n.flag ? 1 : 0)) / 2;
+    if (pairs == 1) {
+        ExprPtr condition = expr(*n.kids[0]);
+        auto then = block(*n.kids[1]);
+        auto otherwise = n.flag ? block(*n.kids.back()) : nullptr;
+        return at(ifThen(std::move(condition), std::move(then), std::move(otherwise)), n.line);
+    }
+    auto s = std::make_unique<IfStmt>();
     for (std::size_t i = 0; i < pairs; ++i) {
         s->conditions.push_back(expr(*n.kids[2 * i]));
         s->blocks.push_back(block(*n.kids[2 * i + 1]));

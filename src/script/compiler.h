@@ -77,7 +77,7 @@ private:
     ExprPtr withObject(int line);
     std::string describe(const SyntaxNode& n) const;
 
-    StmtPtr block(SyntaxNode& n);
+    std::unique_ptr<Block> block(SyntaxNode& n);
     StmtPtr statement(SyntaxNode& n);
     StmtPtr assignment(SyntaxNode& n);
     StmtPtr memberAssignment(SyntaxNode& target, const std::vector<SyntaxPtr>& argKids, SyntaxNode& n);

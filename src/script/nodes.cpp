@@ -1,6 +1,7 @@
 #include "script/nodes.h"
 
 #include <cmath>
+#include <new>
 
 #include "text/cp1252.h"
 #include "text/text_helpers.h"
@@ -11,15 +12,25 @@ namespace qor::script {
 namespace {
 
 // Evaluates arguments into values; missing ones stay marked for builtins.
+// A few arguments live on the stack, and only the slots used are built:
+// a builtin call in a loop costs no more than its arguments.
 class ArgValues {
 public:
     ArgValues(const ExprList& args, Frame& f)
     {
-        std::size_t n = args.size();
-        data_ = n <= kInline ? inline_ : (heap_.resize(n), heap_.data());
+        const std::size_t n = args.size();
+        if (n > kInline) {
+            heap_.resize(n);
+            for (std::size_t i = 0; i < n; ++i)
+                heap_[i] = args[i]->eval(f);
+            data_ = heap_.data();
+            size_ = n;
+            return;
+        }
+        data_ = inline_.values();
+        for (; inline_.built < n; ++inline_.built)
+            new (data_ + inline_.built) Value(args[inline_.built]->eval(f));
         size_ = n;
-        for (std::size_t i = 0; i < n; ++i)
-            data_[i] = args[i]->eval(f);
     }
     std::span<Value> span() { return {data_, size_}; }
     void dropMissing()
@@ -31,7 +42,19 @@ public:
 
 private:
     static constexpr std::size_t kInline = 6;
-    Value inline_[kInline];
+    // Raw slots; the ones built are destroyed with it, also when an
+    // argument fails half-way.
+    struct Slots {
+        alignas(Value) unsigned char raw[kInline * sizeof(Value)];
+        std::size_t built = 0;
+        Value* values() { return reinterpret_cast<Value*>(raw); }
+        ~Slots()
+        {
+            for (std::size_t i = 0; i < built; ++i)
+                values()[i].~Value();
+        }
+    };
+    Slots inline_;
     std::vector<Value> heap_;
     Value* data_;
     std::size_t size_;
@@ -47,7 +70,7 @@ Value numericForLoop(const Value& v)
 
 // One turn of a For or For Each body; the loop's way out when it ends
 // there (Exit For ends the loop itself, nothing beyond it).
-inline std::optional<Flow> turn(const Stmt& body, int forLine, Frame& f)
+inline std::optional<Flow> turn(const Block& body, int forLine, Frame& f)
 {
     Flow fl = body.exec(f);
     if (fl == Flow::ExitFor)
@@ -72,12 +95,27 @@ inline void stepCounter(Value& counter, const Value& by)
 
 }  // namespace
 
+namespace {
+const Global::Kind kAlwaysThere = Global::Constant;
+}  // namespace
+
 Operand::Operand(ExprPtr e) : expr(std::move(e))
 {
-    if (auto* l = dynamic_cast<LocalGet*>(expr.get()))
+    if (auto* l = dynamic_cast<LocalGet*>(expr.get())) {
+        kind = Kind::Local;
         slot = l->slot;
-    else if (auto* k = dynamic_cast<Literal*>(expr.get()))
-        constant = &k->value;
+    } else if (auto* r = dynamic_cast<RefParamGet*>(expr.get())) {
+        kind = Kind::RefParam;
+        slot = r->slot;
+    } else if (auto* k = dynamic_cast<Literal*>(expr.get())) {
+        kind = Kind::Fixed;
+        fixed = &k->value;
+        fixedKind = &kAlwaysThere;
+    } else if (auto* g = dynamic_cast<GlobalGet*>(expr.get())) {
+        kind = Kind::Fixed;
+        fixed = &g->global->value;
+        fixedKind = &g->global->kind;
+    }
 }
 
 Value& VarRef::storage(Frame& f) const
@@ -129,6 +167,280 @@ Value* GlobalGet::reference(Frame& f) const
         return &global->value;
     }
     return nullptr;
+}
+
+namespace {
+using OperandKind = Operand::Kind;
+
+// Operand::peek for an operand whose kind is known when the code is built.
+template <OperandKind Kind>
+inline const Value* peekAs(const Operand& o, Frame& f)
+{
+    if constexpr (Kind == OperandKind::Local)
+        return &f.locals[o.slot];
+    else
+        return *o.fixedKind >= Global::Variable ? o.fixed : nullptr;
+}
+
+template <bool Subtract>
+bool sumAny(const Expr& e, Frame& f, Value& out)
+{
+    return static_cast<const AddSubExpr<Subtract>&>(e).into(f, out);
+}
+
+// Where an operand of known kind lies: a local's slot, or a literal's or
+// module variable's value with the kind that says whether it is there.
+struct Place {
+    int slot;
+    const Value* fixed;
+    const Global::Kind* kind;
+    explicit Place(const Operand& o) : slot(o.slot), fixed(o.fixed), kind(o.fixedKind) {}
+    template <OperandKind Kind>
+    const Value* peek(Frame& f) const
+    {
+        if constexpr (Kind == OperandKind::Local)
+            return &f.locals[slot];
+        else
+            return *kind >= Global::Variable ? fixed : nullptr;
+    }
+};
+
+// x = a + b (or a - b) as one statement when both operands are locals,
+// literals or module variables: the sum is computed here, into x, and
+// anything but two numbers goes the general assignment's way.
+template <bool Subtract, OperandKind L, OperandKind R>
+struct SumToLocal final : Stmt {
+    AssignLocal general;
+    Place left, right;
+    SumToLocal(const AddSubExpr<Subtract>& sum, int slot, ExprPtr value)
+        : general(slot, std::move(value), false), left(sum.left), right(sum.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        const Value* a = left.peek<L>(f);
+        const Value* b = right.peek<R>(f);
+        if (a && b && AddSubExpr<Subtract>::combineInto(*a, *b, f.locals[general.slot]))
+            return Flow::Normal;
+        return general.assign(f);
+    }
+};
+
+template <bool Subtract, OperandKind L, OperandKind R>
+struct SumToGlobal final : Stmt {
+    AssignGlobal general;
+    Place left, right;
+    SumToGlobal(const AddSubExpr<Subtract>& sum, Global* global, ExprPtr value)
+        : general(global, std::move(value), false), left(sum.left), right(sum.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        Global& g = *general.global;
+        if (g.kind == Global::Variable) {
+            const Value* a = left.peek<L>(f);
+            const Value* b = right.peek<R>(f);
+            if (a && b && AddSubExpr<Subtract>::combineInto(*a, *b, g.value))
+                return Flow::Normal;
+        }
+        return general.assign(f);
+    }
+};
+
+template <template <bool, OperandKind, OperandKind> class Node, bool Subtract, class Target>
+StmtPtr sumStatement(const AddSubExpr<Subtract>& sum, Target target, ExprPtr& value)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    const OperandKind l = sum.left.kind, r = sum.right.kind;
+    if (l == Local && r == Local)
+        return std::make_unique<Node<Subtract, Local, Local>>(sum, target, std::move(value));
+    if (l == Local && r == Fixed)
+        return std::make_unique<Node<Subtract, Local, Fixed>>(sum, target, std::move(value));
+    if (l == Fixed && r == Local)
+        return std::make_unique<Node<Subtract, Fixed, Local>>(sum, target, std::move(value));
+    if (l == Fixed && r == Fixed)
+        return std::make_unique<Node<Subtract, Fixed, Fixed>>(sum, target, std::move(value));
+    return nullptr;
+}
+
+template <template <bool, OperandKind, OperandKind> class Node, class Target>
+StmtPtr sumStatement(Target target, ExprPtr& value)
+{
+    if (auto* a = dynamic_cast<const AddExpr*>(value.get()))
+        return sumStatement<Node>(*a, target, value);
+    if (auto* s = dynamic_cast<const SubExpr*>(value.get()))
+        return sumStatement<Node>(*s, target, value);
+    return nullptr;
+}
+
+template <Compare Op, OperandKind L, OperandKind R>
+bool testOf(const CompareExpr& c, Frame& f)
+{
+    const Value* pa = peekAs<L>(c.left, f);
+    const Value* pb = peekAs<R>(c.right, f);
+    if (pa && pb) {
+        if (pa->isInteger() && pb->isInteger())
+            return CompareExpr::compareNumbers(Op, pa->asInt(), pb->asInt());
+        double x, y;
+        if (pa->type() == Type::Double && pb->type() == Type::Double)
+            return CompareExpr::compareNumbers(Op, pa->asDouble(), pb->asDouble());
+        if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
+            return CompareExpr::compareNumbers(Op, x, y);
+    }
+    return c.testAny(f);
+}
+
+bool testPeek(const CompareExpr& c, Frame& f)
+{
+    if (const Value* pa = c.left.peek(f)) {
+        if (const Value* pb = c.right.peek(f)) {
+            if (pa->isInteger() && pb->isInteger())
+                return CompareExpr::intCompare(c.op, pa->asInt(), pb->asInt());
+            double x, y;
+            if (asPlainNumber(*pa, x) && asPlainNumber(*pb, y))
+                return CompareExpr::compareNumbers(c.op, x, y);
+        }
+    }
+    return c.testAny(f);
+}
+
+template <Compare Op>
+CompareExpr::TestFn testFor(OperandKind l, OperandKind r)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    if (l == Local && r == Local)
+        return testOf<Op, Local, Local>;
+    if (l == Local && r == Fixed)
+        return testOf<Op, Local, Fixed>;
+    if (l == Fixed && r == Local)
+        return testOf<Op, Fixed, Local>;
+    if (l == Fixed && r == Fixed)
+        return testOf<Op, Fixed, Fixed>;
+    return testPeek;
+}
+}  // namespace
+
+// If a < b Then ... with both sides locals, literals or module variables:
+// two numbers are compared here, without calling the condition; anything
+// else (strings, dates, On Error Resume Next) is the general If's.
+template <Compare Op, OperandKind L, OperandKind R>
+struct IfCompare final : Stmt {
+    IfThenStmt general;
+    Place left, right;
+    IfCompare(const CompareExpr& c, ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise)
+        : general(std::move(condition), std::move(then), std::move(otherwise)), left(c.left), right(c.right)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        if (f.resumeNext)
+            return general.exec(f);
+        const Value* a = left.peek<L>(f);
+        const Value* b = right.peek<R>(f);
+        bool yes;
+        if (a && b && a->isInteger() && b->isInteger())
+            yes = CompareExpr::compareNumbers(Op, a->asInt(), b->asInt());
+        else if (a && b && a->type() == Type::Double && b->type() == Type::Double)
+            yes = CompareExpr::compareNumbers(Op, a->asDouble(), b->asDouble());
+        else
+            yes = general.comparison->test(f);
+        if (yes) {
+            if (const Stmt* single = general.single) {
+                f.rt->line = single->line;
+                return single->exec(f);
+            }
+            return general.then->exec(f);
+        }
+        return general.otherwise ? general.otherwise->exec(f) : Flow::Normal;
+    }
+};
+
+template <Compare Op>
+StmtPtr ifCompare(const CompareExpr& c, ExprPtr& condition, std::unique_ptr<Block>& then,
+                  std::unique_ptr<Block>& otherwise)
+{
+    constexpr OperandKind Local = OperandKind::Local, Fixed = OperandKind::Fixed;
+    const OperandKind l = c.left.kind, r = c.right.kind;
+    if (l == Local && r == Local)
+        return std::make_unique<IfCompare<Op, Local, Local>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Local && r == Fixed)
+        return std::make_unique<IfCompare<Op, Local, Fixed>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Fixed && r == Local)
+        return std::make_unique<IfCompare<Op, Fixed, Local>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    if (l == Fixed && r == Fixed)
+        return std::make_unique<IfCompare<Op, Fixed, Fixed>>(c, std::move(condition), std::move(then), std::move(otherwise));
+    return nullptr;
+}
+
+SumInto sumInto(const Expr* value)
+{
+    if (dynamic_cast<const AddExpr*>(value))
+        return sumAny<false>;
+    if (dynamic_cast<const SubExpr*>(value))
+        return sumAny<true>;
+    return nullptr;
+}
+
+StmtPtr assignLocal(int slot, ExprPtr value, bool set)
+{
+    if (!set) {
+        if (StmtPtr s = sumStatement<SumToLocal>(slot, value))
+            return s;
+    }
+    return std::make_unique<AssignLocal>(slot, std::move(value), set);
+}
+
+StmtPtr ifThen(ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise)
+{
+    StmtPtr s;
+    if (auto* c = dynamic_cast<const CompareExpr*>(condition.get())) {
+        switch (c->op) {
+        case Compare::Eq: s = ifCompare<Compare::Eq>(*c, condition, then, otherwise); break;
+        case Compare::Ne: s = ifCompare<Compare::Ne>(*c, condition, then, otherwise); break;
+        case Compare::Lt: s = ifCompare<Compare::Lt>(*c, condition, then, otherwise); break;
+        case Compare::Le: s = ifCompare<Compare::Le>(*c, condition, then, otherwise); break;
+        case Compare::Gt: s = ifCompare<Compare::Gt>(*c, condition, then, otherwise); break;
+        case Compare::Ge: s = ifCompare<Compare::Ge>(*c, condition, then, otherwise); break;
+        }
+    }
+    if (s)
+        return s;
+    return std::make_unique<IfThenStmt>(std::move(condition), std::move(then), std::move(otherwise));
+}
+
+StmtPtr assignGlobal(Global* global, ExprPtr value, bool set)
+{
+    if (!set) {
+        if (StmtPtr s = sumStatement<SumToGlobal>(global, value))
+            return s;
+    }
+    return std::make_unique<AssignGlobal>(global, std::move(value), set);
+}
+
+CompareExpr::TestFn CompareExpr::chooseTest(Compare op, OperandKind l, OperandKind r)
+{
+    switch (op) {
+    case Compare::Eq: return testFor<Compare::Eq>(l, r);
+    case Compare::Ne: return testFor<Compare::Ne>(l, r);
+    case Compare::Lt: return testFor<Compare::Lt>(l, r);
+    case Compare::Le: return testFor<Compare::Le>(l, r);
+    case Compare::Gt: return testFor<Compare::Gt>(l, r);
+    case Compare::Ge: return testFor<Compare::Ge>(l, r);
+    }
+    return testPeek;
+}
+
+bool CompareExpr::testAny(Frame& f) const
+{
+    QOR_OPERANDS(f);
+    if (a.isInteger() && b.isInteger())
+        return intCompare(op, a.asInt(), b.asInt());
+    // Two numbers, one a Double: compared as numbers, as compare would.
+    double x, y;
+    if (asPlainNumber(a, x) && asPlainNumber(b, y))
+        return compareNumbers(op, x, y);
+    Value r = compare(op, a, b, literals);
+    return r.type() == Type::Boolean && r.asBool();
 }
 
 Value UnaryExpr::eval(Frame& f) const
@@ -241,13 +553,34 @@ Flow Block::guarded(const Stmt& s, Frame& f)
     return resumeOnError(f, Flow::Normal, [&] { return s.exec(f); });
 }
 
+Flow AssignLocal::assign(Frame& f) const
+{
+    Value v = value->eval(f);
+    if (v.type() >= Type::Object)
+        v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
+    else if (isSet)
+        raise(errc::ObjectRequired);
+    f.locals[slot] = std::move(v);
+    return Flow::Normal;
+}
+
+Flow AssignGlobal::assign(Frame& f) const
+{
+    Global& g = *global;
+    Value v = value->eval(f);
+    // Checked after the value: evaluating it may have run a script
+    // that changed what the name is.
+    if (g.kind == Global::Variable && v.type() < Type::Object && !isSet) {
+        g.value = std::move(v);
+        return Flow::Normal;
+    }
+    f.rt->writeGlobal(g, std::move(v), isSet);
+    return Flow::Normal;
+}
+
 Flow AssignVar::exec(Frame& f) const
 {
     Value v = value->eval(f);
-    if (var.kind == VarRef::Global) {
-        f.rt->writeGlobal(*var.global, std::move(v), isSet);
-        return Flow::Normal;
-    }
     var.storage(f) = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
     return Flow::Normal;
 }
@@ -297,37 +630,54 @@ Flow ForStmt::exec(Frame& f) const
         f.rt->writeGlobal(*var.global, std::move(from), false);
     else
         var.storage(f) = std::move(from);
-    if (var.kind == VarRef::Local && to.isInteger() && by.isInteger()) {
-        if (std::optional<Flow> done = runLocalCounter(f, up))
+    if (to.isInteger() && by.isInteger()) {
+        std::optional<Flow> done;
+        if (var.kind == VarRef::Local)
+            done = up ? runCounter<true>(f, f.locals[var.slot], nullptr) : runCounter<false>(f, f.locals[var.slot], nullptr);
+        else if (var.kind == VarRef::Global && var.global->kind == Global::Variable)
+            done = up ? runCounter<true>(f, var.global->value, var.global)
+                      : runCounter<false>(f, var.global->value, var.global);
+        if (done)
             return *done;
     }
     return runGeneral(f, up);
 }
 
-// A local counter with whole-number bounds: the common loop, kept tight.
-// Nothing when the body stored something else in the counter: the general
-// loop finishes the work.
-std::optional<Flow> ForStmt::runLocalCounter(Frame& f, bool up) const
+// A local or module variable as counter, whole-number bounds: the common
+// loop, kept tight. Nothing when the body stored something else in the
+// counter: the general loop finishes the work. A module counter is
+// watched: a script run from the body may make its name something else
+// than a variable, and the general loop's step then reports it.
+template <bool Up>
+std::optional<Flow> ForStmt::runCounter(Frame& f, Value& counter, const struct Global* global) const
 {
-    Value& counter = f.locals[var.slot];
+    if (!counter.isInteger())
+        return std::nullopt;
     const Value& by = f.locals[stepSlot];
     const std::int32_t to = f.locals[limitSlot].asInt(), step = by.asInt();
     const bool integerStep = by.type() == Type::Integer;
-    const Stmt& statements = *body;
+    const Block& statements = *body;
     const int forLine = line;
     for (;;) {
-        if (!counter.isInteger())
-            return std::nullopt;
-        std::int32_t c = counter.asInt();
-        if (up ? c > to : c < to)
+        const std::int32_t c = counter.asInt();
+        if (Up ? c > to : c < to)
             return Flow::Normal;
         if (std::optional<Flow> done = turn(statements, forLine, f))
             return done;
+        if (global && global->kind != Global::Variable) {
+            stepCounter(var.storage(f), by);
+            return std::nullopt;
+        }
         if (!counter.isInteger()) {
             stepCounter(counter, by);
             return std::nullopt;
         }
-        counter = wholeResult(std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep);
+        // Past 32 bits the counter is a Double, which the general loop
+        // compares with the limit.
+        if (!storeWhole(counter, std::int64_t(counter.asInt()) + step, counter.type() == Type::Integer && integerStep)) {
+            counter.setDouble(double(std::int64_t(counter.asInt()) + step));
+            return std::nullopt;
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 #include <string>
 #include <vector>
 
@@ -57,7 +58,7 @@ struct GlobalGet final : Expr {
     explicit GlobalGet(struct Global* g) : global(g) {}
     Value eval(Frame& f) const override
     {
-        if (global->kind != Global::Undefined && global->kind != Global::Proc)
+        if (global->holdsValue())
             return global->value;
         return f.rt->readGlobal(*global, f);
     }
@@ -98,37 +99,58 @@ struct BinaryExpr final : Expr {
     Value eval(Frame& f) const override;
 };
 
-// An operand of the hot operators: a local or a literal is read in place,
-// without a virtual call or a copy; anything else is evaluated.
+// An operand of the hot operators: a local, a ByRef parameter, a literal or
+// a module variable is read in place, without a virtual call or a copy;
+// anything else is evaluated.
 struct Operand {
+    enum class Kind : std::uint8_t { Local, RefParam, Fixed, Other };
     ExprPtr expr;
+    Kind kind = Kind::Other;
     int slot = -1;
-    const Value* constant = nullptr;
+    // A literal or a module variable: where its value lies, and the kind
+    // of name that says whether it is there now (always for a literal).
+    const Value* fixed = nullptr;
+    const Global::Kind* fixedKind = nullptr;
 
     explicit Operand(ExprPtr e);
-    bool simple() const { return slot >= 0 || constant; }
+    // The value where it lies when reading it runs no code; null when it
+    // must be evaluated (a call, or a global that is a procedure or not
+    // yet defined: those may run a script or ask the host).
+    const Value* peek(Frame& f) const
+    {
+        if (kind == Kind::Local)
+            return &f.locals[slot];
+        if (kind == Kind::Fixed)
+            return *fixedKind >= Global::Variable ? fixed : nullptr;
+        if (kind == Kind::RefParam)
+            return &std::as_const(f.locals[slot]).deref();
+        return nullptr;
+    }
     const Value& get(Frame& f, Value& tmp) const
     {
-        if (slot >= 0)
-            return f.locals[slot];
-        if (constant)
-            return *constant;
+        if (const Value* p = peek(f))
+            return *p;
         tmp = expr->eval(f);
         return tmp;
     }
 };
 
-// Reads both operands left to right; a local on the left is copied first
-// when the right side may run code that changes it.
+// Reads both operands left to right; an operand read in place on the left
+// is copied first when the right side runs code that may change it.
 #define QOR_OPERANDS(f)                                              \
     Value ta, tb;                                                    \
     const Value* pa = &left.get(f, ta);                              \
-    if (!right.simple() && pa != &ta) {                              \
-        ta = *pa;                                                    \
-        pa = &ta;                                                    \
+    const Value* pb = right.peek(f);                                 \
+    if (!pb) {                                                       \
+        if (pa != &ta) {                                             \
+            ta = *pa;                                                \
+            pa = &ta;                                                \
+        }                                                            \
+        tb = right.expr->eval(f);                                    \
+        pb = &tb;                                                    \
     }                                                                \
     const Value& a = *pa;                                            \
-    const Value& b = right.get(f, tb)
+    const Value& b = *pb
 
 // A number the fast paths can take as a double: Integer, Long or Double
 // (a Date, a string or Empty go the general way).
@@ -159,31 +181,53 @@ struct AddSubExpr final : Expr {
     {
         return a.type() == Type::Integer && b.type() == Type::Integer;
     }
-    // A Double with a number gives a Double, as add and subtract would; an
-    // overflow (an infinite result) is left to them to report.
+    // A Double with a number gives a Double, as add and subtract would; the
+    // callers leave an overflow (an infinite result) to them to report.
     static bool combineDouble(const Value& a, const Value& b, double& d)
     {
         double x, y;
         if (!asPlainNumber(a, x) || !asPlainNumber(b, y))
             return false;
         d = Subtract ? x - y : x + y;
-        return d - d == 0;
-    }
-    // local = a + b on locals and literals, computed in place.
-    bool intoLocal(Frame& f, Value& out) const
-    {
-        if (!left.simple() || !right.simple())
-            return false;
-        Value ta, tb;
-        const Value& a = left.get(f, ta);
-        const Value& b = right.get(f, tb);
-        if (a.isInteger() && b.isInteger())
-            return storeWhole(out, combine(a, b), bothInteger(a, b));
-        double d;
-        if (!combineDouble(a, b, d))
-            return false;
-        out = Value::dbl(d);
         return true;
+    }
+    // out = a + b for two numbers; false, with out untouched, when it
+    // takes the general way. Inlined into each statement that sums in
+    // place (compilers that do not know the hint ignore it).
+    [[gnu::always_inline]] static bool combineInto(const Value& a, const Value& b, Value& out)
+    {
+        double x, y;
+        if (a.isInteger()) {
+            if (b.isInteger())
+                return storeWhole(out, combine(a, b), bothInteger(a, b));
+            if (b.type() != Type::Double)
+                return false;
+            x = a.asInt();
+            y = b.asDouble();
+        } else if (a.type() == Type::Double) {
+            x = a.asDouble();
+            if (b.type() == Type::Double)
+                y = b.asDouble();
+            else if (b.isInteger())
+                y = b.asInt();
+            else
+                return false;
+        } else {
+            return false;
+        }
+        const double d = Subtract ? x - y : x + y;
+        if (d - d != 0)
+            return false;
+        out.setDouble(d);
+        return true;
+    }
+    // variable = a + b when both operands are read in place, computed into
+    // the variable; false, with out untouched, when it takes the general way.
+    bool into(Frame& f, Value& out) const
+    {
+        const Value* pa = left.peek(f);
+        const Value* pb = pa ? right.peek(f) : nullptr;
+        return pb && combineInto(*pa, *pb, out);
     }
     Value eval(Frame& f) const override
     {
@@ -192,7 +236,7 @@ struct AddSubExpr final : Expr {
         if (a.isInteger() && b.isInteger())
             return wholeResult(combine(a, b), bothInteger(a, b));
         double d;
-        if (combineDouble(a, b, d))
+        if (combineDouble(a, b, d) && d - d == 0)
             return Value::dbl(d);
         return Subtract ? subtract(a, b) : add(a, b);
     }
@@ -200,12 +244,25 @@ struct AddSubExpr final : Expr {
 using AddExpr = AddSubExpr<false>;
 using SubExpr = AddSubExpr<true>;
 
+// variable = a + b or a - b computed into the variable without a virtual
+// call; null when the value is no sum. False, with the variable untouched,
+// when it takes the general way.
+using SumInto = bool (*)(const Expr& sum, Frame& f, Value& out);
+SumInto sumInto(const Expr* value);
+
 struct CompareExpr final : Expr {
+    // The condition's test, chosen like SumInto for the operator and the
+    // shape of the operands.
+    using TestFn = bool (*)(const CompareExpr&, Frame&);
     Compare op;
     std::uint8_t literals;
     Operand left, right;
+    TestFn fast;
     CompareExpr(Compare o, std::uint8_t lit, ExprPtr a, ExprPtr b)
-        : op(o), literals(lit), left(std::move(a)), right(std::move(b)) {}
+        : op(o), literals(lit), left(std::move(a)), right(std::move(b)), fast(chooseTest(o, left.kind, right.kind))
+    {
+    }
+    static TestFn chooseTest(Compare op, Operand::Kind l, Operand::Kind r);
     static bool intCompare(Compare op, std::int32_t x, std::int32_t y) { return compareNumbers(op, x, y); }
     Value eval(Frame& f) const override
     {
@@ -227,18 +284,10 @@ struct CompareExpr final : Expr {
         }
         return false;
     }
-    bool test(Frame& f) const override
-    {
-        QOR_OPERANDS(f);
-        if (a.isInteger() && b.isInteger())
-            return intCompare(op, a.asInt(), b.asInt());
-        // Two numbers, one a Double: compared as numbers, as compare would.
-        double x, y;
-        if (asPlainNumber(a, x) && asPlainNumber(b, y))
-            return compareNumbers(op, x, y);
-        Value r = compare(op, a, b, literals);
-        return r.type() == Type::Boolean && r.asBool();
-    }
+    // Two numbers read in place are compared by fast; the rest (strings,
+    // dates, objects, a side that runs code) in testAny.
+    bool test(Frame& f) const override { return fast(*this, f); }
+    bool testAny(Frame& f) const;
 };
 
 struct ConcatExpr final : Expr {
@@ -294,12 +343,15 @@ struct MemberExpr final : Expr {
 
 // Statements
 
+// A statement list. The loops and If hold theirs as a Block, so that
+// running it is a direct call.
 struct Block final : Stmt {
     std::vector<StmtPtr> body;
     Flow exec(Frame& f) const override
     {
+        Runtime& rt = *f.rt;
         for (const auto& s : body) {
-            f.rt->line = s->line;
+            rt.line = s->line;
             Flow fl = f.resumeNext ? guarded(*s, f) : s->exec(f);
             if (fl != Flow::Normal)
                 return fl;
@@ -323,30 +375,51 @@ struct AssignLocal final : Stmt {
     int slot;
     ExprPtr value;
     bool isSet;
-    const AddExpr* addValue = nullptr;  // counters: x = x + 1 without a call or a copy
-    const SubExpr* subValue = nullptr;
+    SumInto sum = nullptr;  // counters: x = x + 1 without a virtual call or a copy
     AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set)
     {
-        if (!isSet) {
-            addValue = dynamic_cast<const AddExpr*>(value.get());
-            subValue = dynamic_cast<const SubExpr*>(value.get());
-        }
+        if (!isSet)
+            sum = sumInto(value.get());
+    }
+    // The sums here, the rest in assign: the hot path stays small enough
+    // to need no saved registers.
+    Flow exec(Frame& f) const override
+    {
+        if (sum && sum(*value, f, f.locals[slot]))
+            return Flow::Normal;
+        return assign(f);
+    }
+    Flow assign(Frame& f) const;
+};
+
+// global = value: a module variable is written in place; anything else
+// (not yet defined, a constant, a procedure, a host object's member) goes
+// through the runtime, which knows the language's rules for it.
+struct AssignGlobal final : Stmt {
+    struct Global* global;
+    ExprPtr value;
+    bool isSet;
+    SumInto sum = nullptr;
+    AssignGlobal(struct Global* g, ExprPtr v, bool set) : global(g), value(std::move(v)), isSet(set)
+    {
+        if (!isSet)
+            sum = sumInto(value.get());
     }
     Flow exec(Frame& f) const override
     {
-        if (addValue && addValue->intoLocal(f, f.locals[slot]))
+        Global& g = *global;
+        if (g.kind == Global::Variable && sum && sum(*value, f, g.value))
             return Flow::Normal;
-        if (subValue && subValue->intoLocal(f, f.locals[slot]))
-            return Flow::Normal;
-        Value v = value->eval(f);
-        if (v.type() >= Type::Object)
-            v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
-        else if (isSet)
-            raise(errc::ObjectRequired);
-        f.locals[slot] = std::move(v);
-        return Flow::Normal;
+        return assign(f);
     }
+    Flow assign(Frame& f) const;
 };
+
+// The assignments the compiler builds: a sum of two operands read in place
+// (x = x + 1, s = s + i, at the top level too) becomes one statement for
+// the shape of its operands, which adds without calling the expression.
+StmtPtr assignLocal(int slot, ExprPtr value, bool set);
+StmtPtr assignGlobal(struct Global* global, ExprPtr value, bool set);
 
 struct AssignVar final : Stmt {
     VarRef var;
@@ -401,24 +474,57 @@ struct IfStmt final : Stmt {
     }
 };
 
+// If with one condition (and maybe Else), the usual shape, without the
+// walk over a list of conditions.
+struct IfThenStmt final : Stmt {
+    ExprPtr condition;
+    const CompareExpr* comparison = nullptr;  // the condition when it is one: called directly
+    std::unique_ptr<Block> then, otherwise;   // otherwise may be null
+    const Stmt* single = nullptr;             // the Then block's statement when it is alone: If x Then y
+    IfThenStmt(ExprPtr c, std::unique_ptr<Block> t, std::unique_ptr<Block> e)
+        : condition(std::move(c)), comparison(dynamic_cast<const CompareExpr*>(condition.get())), then(std::move(t)),
+          otherwise(std::move(e)), single(then->body.size() == 1 ? then->body[0].get() : nullptr)
+    {
+    }
+    Flow exec(Frame& f) const override
+    {
+        if (f.resumeNext) {
+            if (testResuming(*condition, f))
+                return then->exec(f);
+        } else if (comparison ? comparison->test(f) : condition->test(f)) {
+            if (!single)
+                return then->exec(f);
+            f.rt->line = single->line;
+            return single->exec(f);
+        }
+        return otherwise ? otherwise->exec(f) : Flow::Normal;
+    }
+};
+
+// The If with one condition the compiler builds: a comparison of two
+// operands read in place becomes one statement for its operator and the
+// shape of its operands.
+StmtPtr ifThen(ExprPtr condition, std::unique_ptr<Block> then, std::unique_ptr<Block> otherwise);
+
 // For var = start To limit Step step: the limit and the step are worked
 // out once, into hidden slots.
 struct ForStmt final : Stmt {
     VarRef var;
     ExprPtr start, limit, step;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     int limitSlot, stepSlot;
     Flow exec(Frame& f) const override;
 
 private:
-    std::optional<Flow> runLocalCounter(Frame& f, bool up) const;
+    template <bool Up>
+    std::optional<Flow> runCounter(Frame& f, Value& counter, const struct Global* global) const;
     Flow runGeneral(Frame& f, bool up) const;
 };
 
 struct ForEachStmt final : Stmt {
     VarRef var;
     ExprPtr collection;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     Flow exec(Frame& f) const override;
 };
 
@@ -427,7 +533,7 @@ struct DoStmt final : Stmt {
     bool whileWend;
     int conditionLine;
     ExprPtr condition;
-    StmtPtr body;
+    std::unique_ptr<Block> body;
     Flow exec(Frame& f) const override;
 };
 

@@ -72,12 +72,13 @@ inline Value wholeResult(std::int64_t n, bool integerOperands)
 }
 
 // The same into out, for the fast paths that store a whole number in
-// place; false, with out untouched, when only a Double holds it.
-inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
+// place; false, with out untouched, when only a Double holds it. Inlined
+// into each of them (compilers that do not know the hint ignore it).
+[[gnu::always_inline]] inline bool storeWhole(Value& out, std::int64_t n, bool integerOperands)
 {
     switch (wholeType(n, integerOperands)) {
-    case WholeType::Integer: out = Value::integer(std::int32_t(n)); return true;
-    case WholeType::Long: out = Value::longValue(std::int32_t(n)); return true;
+    case WholeType::Integer: out.setInteger(std::int16_t(n)); return true;
+    case WholeType::Long: out.setLong(std::int32_t(n)); return true;
     case WholeType::Double: break;
     }
     return false;

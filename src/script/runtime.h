@@ -20,11 +20,14 @@ namespace qor::script {
 // host added. Undefined names are resolved when the script runs (members
 // of exposed objects, or a variable created by its first assignment).
 struct Global {
-    enum Kind : std::uint8_t { Undefined, Variable, Constant, Proc, HostObj };
+    // The kinds from Variable on hold their value in `value`, so that one
+    // comparison tells whether reading the name can run code.
+    enum Kind : std::uint8_t { Undefined, Proc, Variable, Constant, HostObj };
     std::string name;
     Value value;
     Kind kind = Undefined;
     std::shared_ptr<Procedure> proc;
+    bool holdsValue() const { return kind >= Variable; }
 };
 
 class ErrObject;

@@ -1,5 +1,6 @@
 #include "script/value.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -12,12 +13,69 @@
 namespace qor::script {
 
 namespace {
-thread_local MemoryLimits tLimits;
-thread_local std::size_t tLiveStringBytes = 0;
+// Short strings come and go by the million in a loop that joins or cuts
+// text: their blocks are kept for reuse instead of going back to the C
+// library, whose allocator is slow on some systems (Windows' heap under
+// wine takes twice as long as the loop's own work). All blocks of a short
+// string have one size, so a block fits any short string.
+constexpr std::size_t kShortBlock = 64;
+constexpr std::size_t kShortMax = kShortBlock - offsetof(StringRep, data) - 1;
+constexpr int kKeptBlocks = 256;
+
+class ShortBlocks {
+public:
+    ShortBlocks() = default;
+    ShortBlocks(const ShortBlocks&) = delete;
+    ShortBlocks& operator=(const ShortBlocks&) = delete;
+    ~ShortBlocks()
+    {
+        while (head_) {
+            Free* next = head_->next;
+            std::free(head_);
+            head_ = next;
+        }
+    }
+    void* take()
+    {
+        if (!head_)
+            return std::malloc(kShortBlock);
+        Free* b = head_;
+        head_ = b->next;
+        --count_;
+        return b;
+    }
+    void give(void* p)
+    {
+        if (count_ == kKeptBlocks) {
+            std::free(p);
+            return;
+        }
+        auto* b = static_cast<Free*>(p);
+        b->next = head_;
+        head_ = b;
+        ++count_;
+    }
+
+private:
+    struct Free {
+        Free* next;
+    };
+    Free* head_ = nullptr;
+    int count_ = 0;
+};
+// One thread's string space: its limits, what its live strings hold, its
+// kept blocks. One object, so that an allocation finds it once (a
+// thread-local variable is a call away on Windows).
+struct StringSpace {
+    MemoryLimits limits;
+    std::size_t liveStringBytes = 0;
+    ShortBlocks shortBlocks;
+};
+thread_local StringSpace tSpace;
 }  // namespace
 
-MemoryLimits& memoryLimits() { return tLimits; }
-std::size_t liveStringBytes() { return tLiveStringBytes; }
+MemoryLimits& memoryLimits() { return tSpace.limits; }
+std::size_t liveStringBytes() { return tSpace.liveStringBytes; }
 
 const Value& Value::emptyValue()
 {
@@ -118,11 +176,12 @@ void Value::release()
 
 StringRep* StringRep::allocate(std::size_t size)
 {
-    if (size > tLimits.maxStringBytes || size > 0x7fffffffu)
+    StringSpace& space = tSpace;
+    if (size > space.limits.maxStringBytes || size > 0x7fffffffu)
         raise(errc::OutOfStringSpace);
-    if (tLiveStringBytes + size > tLimits.maxLiveStringBytes)
+    if (space.liveStringBytes + size > space.limits.maxLiveStringBytes)
         raise(errc::OutOfMemory);
-    void* p = std::malloc(offsetof(StringRep, data) + size + 1);
+    void* p = size <= kShortMax ? space.shortBlocks.take() : std::malloc(offsetof(StringRep, data) + size + 1);
     if (!p)
         raise(errc::OutOfMemory);
     auto* rep = static_cast<StringRep*>(p);
@@ -130,7 +189,7 @@ StringRep* StringRep::allocate(std::size_t size)
     rep->chars = -1;
     rep->size = std::uint32_t(size);
     rep->data[size] = '\0';
-    tLiveStringBytes += size;
+    space.liveStringBytes += size;
     return rep;
 }
 
@@ -144,8 +203,12 @@ StringRep* StringRep::make(std::string_view text)
 
 void StringRep::destroy(StringRep* rep)
 {
-    tLiveStringBytes -= rep->size;
-    std::free(rep);
+    StringSpace& space = tSpace;
+    space.liveStringBytes -= rep->size;
+    if (rep->size <= kShortMax)
+        space.shortBlocks.give(rep);
+    else
+        std::free(rep);
 }
 
 std::int32_t StringRep::charCount()
@@ -166,7 +229,7 @@ ArrayRep* ArrayRep::make(std::vector<std::int32_t> upper, bool fixedSize)
         if (u < -1)
             raise(errc::SubscriptOutOfRange);
         count *= std::size_t(u) + 1;
-        if (count > tLimits.maxArrayItems)
+        if (count > tSpace.limits.maxArrayItems)
             raise(errc::OutOfMemory);
     }
     auto* a = new ArrayRep;

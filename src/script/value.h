@@ -45,6 +45,25 @@ public:
         }
         return *this;
     }
+    // Store a number in place: what the arithmetic fast paths write.
+    void setDouble(double d) noexcept
+    {
+        if (counted(type_)) release();
+        type_ = Type::Double;
+        d_ = d;
+    }
+    void setInteger(std::int16_t i) noexcept { setWhole(Type::Integer, i); }
+    void setLong(std::int32_t i) noexcept { setWhole(Type::Long, i); }
+
+private:
+    void setWhole(Type t, std::int32_t i) noexcept
+    {
+        if (counted(type_)) release();
+        type_ = t;
+        i_ = i;
+    }
+
+public:
     void swap(Value& other) noexcept
     {
         std::swap(type_, other.type_);

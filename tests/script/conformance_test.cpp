@@ -58,6 +58,15 @@ INSTANTIATE_TEST_SUITE_P(Operators, Conformance, ::testing::Values(
     Case{"MsgBox 1 + Empty & \"|\" & (\"\" & Empty) & \"|\" & (Empty = 0) & (Empty = \"\")", "1||TrueTrue"},
     Case{"x = \"10\"\nMsgBox (x > 9) & \" \" & (x = 10) & \" \" & (x > \"9\")", "True True False"},
     Case{"a = 10: b = \"9\"\nMsgBox a < b", "True"},
+    // Sums and comparisons of variables, in a procedure and at the top level,
+    // across the Integer, Long and Double limits and with a string.
+    Case{"Function F(a, b)\n Dim x, y, s, d, c\n x = a: y = b\n s = x + y: d = x - y\n"
+         " If x < y Then c = \"<\" Else c = \">=\"\n F = TypeName(s) & s & \" \" & TypeName(d) & d & c\nEnd Function\n"
+         "x = 2147483647: y = 1: s = x + y: d = y - x: If y < x Then c = \"<\"\n"
+         "MsgBox F(32767, 1) & \"|\" & F(2147483647, 1) & \"|\" & F(1.5, 2) & \"|\" & F(-32768, 1) & \"|\" & F(\"10\", 9)"
+         " & \"|\" & TypeName(s) & s & TypeName(d) & d & c",
+         "Long32768 Integer32766>=|Double2147483648 Long2147483646>=|Double3.5 Double-0.5<|Long-32767 Long-32769<|"
+         "Double19 Double1>=|Double2147483648Long-2147483646<"},
     Case{"Set a = Fenetre: Set b = Fenetre\nMsgBox (a Is b) & \" \" & (a Is Nothing) & \" \" & (Nothing Is Nothing)", "True False True"},
     Case{"MsgBox &HFF & \" \" & &HFFFF & \" \" & &O17 & \" \" & &H10000 & \" \" & TypeName(&HFFFF)", "255 -1 15 65536 Integer"},
     Case{"MsgBox 1.5E3 & \" \" & .5 & \" \" & 1E+20 & \" \" & 0.00001 & \" \" & 0.0001", "1500 0.5 1E+20 1E-05 0.0001"},

@@ -329,13 +329,89 @@ TEST(ModuleModel, ExecuteStatementRunsInTheModule)
     EXPECT_EQ(toText(module.eval("total").value), "5");
 }
 
-TEST(ModuleModel, ForCountersPromoteLikeAdditions)
+// Module variables: texts run one after the other in one module, each
+// maybe giving a name another meaning, with what the message boxes show
+// and the error the last text stops with. A message "RUN:text" runs that
+// text while the script that showed it waits, as a host callback may.
+struct ModuleCase {
+    const char* name;
+    std::vector<std::string> texts;
+    const char* output;
+    int error = 0;
+    int line = 0;
+};
+
+void PrintTo(const ModuleCase& c, std::ostream* os) { *os << c.name; }
+
+class RunningHost : public FakeScriptHost {
+public:
+    Module* module = nullptr;
+    int msgBox(const MsgBoxRequest& r) override
+    {
+        if (r.prompt.rfind("RUN:", 0) == 0)
+            module->addCode(r.prompt.substr(4));
+        return FakeScriptHost::msgBox(r);
+    }
+};
+
+// count assignments of distinct module variables, v0 = 0 to v<count-1> =
+// count - 1, one a line, each declared first on its line when asked.
+std::string manyAssignments(int count, bool declared = false)
 {
-    FakeScriptHost host;
-    Module module(&host);
-    ASSERT_TRUE(module.addCode("For i = 32766 To 32768\r\n  s = s & TypeName(i) & \" \"\r\nNext\r\nMsgBox s & TypeName(i)").ok());
-    EXPECT_EQ(host.output(), "Integer Integer Long Long");
+    std::string text;
+    for (int k = 0; k < count; ++k) {
+        const std::string v = "v" + std::to_string(k);
+        text += (declared ? "Dim " + v + ": " : "") + v + " = " + std::to_string(k) + "\n";
+    }
+    return text;
 }
+
+class ModuleVariables : public ::testing::TestWithParam<ModuleCase> {};
+
+TEST_P(ModuleVariables, KeepTheirMeaningAcrossTexts)
+{
+    const ModuleCase& c = GetParam();
+    RunningHost host;
+    Module module(&host);
+    host.module = &module;
+    RunResult last;
+    for (const std::string& text : c.texts)
+        last = module.addCode(text);
+    EXPECT_EQ(host.output(), c.output);
+    EXPECT_EQ(last.ok() ? 0 : last.error->number, c.error) << (last.ok() ? "" : last.error->description);
+    EXPECT_EQ(last.ok() ? 0 : last.error->line, c.line);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, ModuleVariables, ::testing::Values(
+    ModuleCase{"ThousandsOfVariables", {manyAssignments(3000) + "MsgBox v0 + v1500 + v2999\nMsgBox TypeName(v2999) & v3000 & TypeName(v3000)"}, "4499|IntegerEmpty"},
+    ModuleCase{"ThousandsDeclaredUnderOptionExplicit", {"Option Explicit\n" + manyAssignments(3000, true) + "MsgBox v2999\nv3000 = 1"}, "2999", 500, 3003},
+    ModuleCase{"ThousandsReadByAProcedure", {manyAssignments(2000) + "Function Total()\n Dim k\n For k = 0 To 1999\n  Total = Total + k\n Next\n Total = Total + v1999\nEnd Function\nMsgBox Total()"}, "2000999"},
+    ModuleCase{"ProcedureAssignedInItsText", {"Sub P\nEnd Sub\nP = 1"}, "", 501, 3},
+    ModuleCase{"ProcedureDeclaredInItsText", {"Sub P\nEnd Sub\nDim P"}, "", 1041, 3},
+    ModuleCase{"ProcedureDeclaredByALaterText", {"Sub P\n MsgBox \"p\"\nEnd Sub", "Dim P\nP = 2\nMsgBox P"}, "", 501, 2},
+    ModuleCase{"VariableMadeASub", {"x = 5\nMsgBox x", "Sub x\n MsgBox \"sub\"\nEnd Sub\nx\nx = 3"}, "5|sub", 501, 5},
+    ModuleCase{"VariableMadeAFunctionInOperators", {"s = 0\nFor i = 1 To 3\n s = s + i\nNext\nMsgBox s", "Function s()\n s = 10\nEnd Function\nMsgBox s + 1\nMsgBox s - 1 & \" \" & (s > 5)"}, "6|11|9 True"},
+    ModuleCase{"ConstantAssignedByALaterText", {"Const c = 4", "c = c + 1"}, "", 501, 1},
+    ModuleCase{"CounterMadeASubWhileTheLoopRuns", {"For i = 1 To 3\n MsgBox \"RUN:Sub i\" & vbCrLf & \"End Sub\"\nNext\nMsgBox \"after\""}, "RUN:Sub i\r\nEnd Sub", 501, 1},
+    ModuleCase{"SumMadeASubWhileTheLoopRuns", {"s = 0\nFor k = 1 To 3\n s = s + 1\n If k = 2 Then MsgBox \"RUN:Sub s\" & vbCrLf & \"End Sub\"\nNext"}, "RUN:Sub s\r\nEnd Sub", 501, 3},
+    ModuleCase{"OperandMadeAFunctionWhileTheLoopRuns", {"t = 1\nFor k = 1 To 3\n u = t + k\n MsgBox u\n If k = 1 Then MsgBox \"RUN:Function t()\" & vbCrLf & \"t = 100\" & vbCrLf & \"End Function\"\nNext"}, "2|RUN:Function t()\r\nt = 100\r\nEnd Function|102|103"},
+    ModuleCase{"VariableDeclaredAfterAProcedureReadsIt", {"Sub Show\n MsgBox TypeName(v) & v\nEnd Sub\nShow", "Dim v\nv = 1.5\nShow", "v = \"t\"\nShow"}, "Empty|Double1.5|Stringt"},
+    ModuleCase{"ConstantDeclaredAfterAProcedureReadsIt", {"Function K()\n K = k1\nEnd Function\nMsgBox IsEmpty(K())", "Const k1 = 7\nMsgBox K() + 1"}, "True|8"},
+    ModuleCase{"OptionExplicitInALaterText", {"a = 1", "Option Explicit\nMsgBox a\nb = 2"}, "1", 500, 3},
+    ModuleCase{"OptionExplicitReachesEarlierProcedures", {"Sub R\n MsgBox zz\nEnd Sub\nR", "Option Explicit\nR"}, "", 500, 2},
+    ModuleCase{"ProcedureMovesTheCounter", {"Sub Bump\n i = i + 10\nEnd Sub\nFor i = 1 To 30\n n = n + 1\n Bump\nNext\nMsgBox n & \" \" & i"}, "3 34"},
+    ModuleCase{"CounterGivenAString", {"For i = 1 To 5\n If i = 2 Then i = \"4\"\n s = s & i\nNext\nMsgBox s & TypeName(i)"}, "145Double"},
+    ModuleCase{"CounterGivenADouble", {"For i = 1 To 4\n s = s & i & \",\"\n If i = 2 Then i = 2.5\nNext\nMsgBox s & TypeName(i)"}, "1,2,3.5,Double"},
+    ModuleCase{"CounterPromotesLikeAnAddition", {"For i = 32766 To 32768\n s = s & TypeName(i)\nNext\nMsgBox s & TypeName(i) & i"}, "IntegerIntegerLongLong32769"},
+    ModuleCase{"DeepRecursion", {"Function F(n)\n depth = depth + 1\n F = F(n + 1)\nEnd Function\nx = F(1)"}, "", 28, 3},
+    ModuleCase{"RecursionThroughAVariable", {"Dim total\nFunction Sum(n)\n If n = 0 Then\n  Sum = 0\n Else\n  total = total + n\n  Sum = n + Sum(n - 1)\n End If\nEnd Function\nMsgBox Sum(1000) & \" \" & total"}, "500500 500500"},
+    ModuleCase{"UndefinedRead", {"MsgBox IsEmpty(q) & (q + 1) & (q & \"x\")\nq = q + 1\nMsgBox q"}, "True1x|1"},
+    ModuleCase{"StringsAdded", {"a = \"1\"\nb = a + 2\nc = a & 2\nd = a + \"x\"\nMsgBox b & \" \" & TypeName(b) & \" \" & c & \" \" & d\ne = b + \"x\""}, "3 Double 12 1x", 13, 6},
+    ModuleCase{"Overflow", {"d = 1E+308\nd = d + 1E+308"}, "", 6, 2},
+    ModuleCase{"NullCompared", {"n = Null\nm = n + 1\nMsgBox IsNull(m) & (n > 1)\nIf n > 1 Then MsgBox \"no\" Else MsgBox \"else\""}, "True|else"},
+    ModuleCase{"ByRefToAVariable", {"Sub Inc(v)\n v = v + 1\nEnd Sub\nn = 1\nInc n\nInc (n)\nMsgBox n\nFunction Twice(w)\n Twice = w + w\nEnd Function\nMsgBox Twice(n) & Twice(\"a\")"}, "2|4aa"},
+    ModuleCase{"SetAndLet", {"Set a = Err\nSet a = Nothing\nMsgBox TypeName(a)\nb = a"}, "Nothing", 91, 4}
+));
 
 TEST(Safety, TheBudgetAlsoCountsProcedureCalls)
 {
