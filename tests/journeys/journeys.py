@@ -110,6 +110,8 @@ def button_block(lines, number):
 
 SCRIPT_TEXT_AREA = (300, 200)
 SCRIPT_EDITOR = {"Assistant": (130, 12)}
+# The procedure list sits at the strip's right end, this far from the edge.
+SCRIPT_PROCEDURES_FROM_RIGHT = (98, 12)
 
 
 def scripts(d):
@@ -155,14 +157,25 @@ def scripts(d):
     for _ in range(8):
         e.panel.click(width - 7, height - 10)
     e.panel.click(*PANEL_SCROLLED["Minuteur"])
-    for button, caption, typed in ((PANEL_SCROLLED["timer Modif."], "^Code VBS du minuteur$", "y=2"),
-                                   (PANEL_SCROLLED["global Modif."], "^Code VBS", "dim zz")):
+    for button, caption, typed in ((PANEL_SCROLLED["timer Modif."], "^Code VBS du minuteur$", "y=2\n"),
+                                   (PANEL_SCROLLED["global Modif."], "^Code VBS",
+                                    "dim zz\nsub aa\nend sub\nsub bb\nend sub")):
         e.panel.click(*button)
         editor = d.window(caption)
         editor.click(*SCRIPT_TEXT_AREA)
         d.key("ctrl+a", "Delete")
-        d.type(typed + "\n")
+        d.type(typed)
         time.sleep(0.3)
+        if "sub bb" in typed:
+            # The second procedure picked from the list: the caret goes to
+            # its declaration, where a line is then typed (checked below).
+            _, _, width, _ = editor.geometry()
+            editor.click(width - SCRIPT_PROCEDURES_FROM_RIGHT[0], SCRIPT_PROCEDURES_FROM_RIGHT[1])
+            time.sleep(0.4)
+            d.key("Down", "Down", "Return")
+            time.sleep(0.3)
+            d.type("zz=3\n")
+            time.sleep(0.3)
         e.close_window(editor)
 
     lines = e.save_as("scripts.qor")
@@ -171,8 +184,15 @@ def scripts(d):
          "the hover script was saved as %r, not formatted as typed" % hover)
     need(any("Bonjour" in line for line in hover[2:]),
          "the assistant's message is not in the hover script %r" % hover)
-    for formatted in ("y = 2¤", "Dim zz¤"):
-        need(formatted in lines, "no slot was saved as %r (typed, then formatted by Enter)" % formatted)
+    need("y = 2¤" in lines, "the timer's slot was not saved as \"y = 2\" (typed, then formatted by Enter)")
+    globals_ = [line.split("¤") for line in lines if line.startswith("Dim zz¤")]
+    need(globals_, "no global slot starting with \"Dim zz\" was saved")
+    script = [line.strip().lower() for line in globals_[0]]
+    need("sub bb" in script, "the global slot %r lost its second procedure" % globals_[0])
+    at = script.index("sub bb")
+    need(script[at - 1] == "zz = 3" and script[:3] == ["dim zz", "sub aa", "end sub"],
+         "the line typed after picking \"bb\" from the procedure list is not right above its "
+         "declaration: the global slot was saved as %r" % globals_[0])
 
 
 # --- looks ------------------------------------------------------------------
