@@ -442,7 +442,33 @@ def wizard(d):
 # --- a menu from nothing ---------------------------------------------------------
 
 PANEL_WINDOW_BROWSE_BACKGROUND = (141, 58)
-PANEL_TEXT = {"Modif. police": (128, 101)}
+PANEL_TEXT = {"Couleur de fond": (115, 45), "Couleur du texte": (115, 73), "Modif. police": (128, 101)}
+COLOUR_DIALOG = "^Select Colou?r|^Sélectionner une couleur|^Couleur"
+FONT_DIALOG = "^Choisir une police|^Sélectionner|^Police|^Select Font"
+
+
+def escape_from(d, caption):
+    """A dialog left with Escape, as a person changes their mind."""
+    dialog = d.window(caption)
+    dialog.activate()
+    d.key("Escape")
+    d.gone(dialog)
+
+
+def pick_colour(d, html):
+    """The colour dialog answered by typing into its HTML field."""
+    dialog = d.window(COLOUR_DIALOG)
+    dialog.activate()
+    d.key("alt+h", "ctrl+a")
+    d.type(html)
+    d.key("Return")
+    d.gone(dialog)
+
+
+def vb_colour(html):
+    """#rrggbb as the project file writes a colour: blue, green, red from the top byte down."""
+    red, green, blue = (int(html[i:i + 2], 16) for i in (1, 3, 5))
+    return blue << 16 | green << 8 | red
 PANEL_BUTTON_TRANSPARENT = (23, 334)
 
 
@@ -465,6 +491,9 @@ def menu_from_nothing(d):
     d.answer_file_dialog("^Image de fond", background)
     d.wait(lambda: distance(d.screenshot().pixel(left + 600, top + 500), (255, 230, 0)) <= 8,
            "the background picture on the worksheet")
+    # Asked again and left with Escape: the picture stays (checked in the file).
+    e.panel.click(*PANEL_WINDOW_BROWSE_BACKGROUND)
+    escape_from(d, "^Image de fond")
 
     # A text box, typed into where it stands.
     e.tool("Créer")
@@ -475,16 +504,30 @@ def menu_from_nothing(d):
     e.sheet.click(100, 60)
     time.sleep(0.3)
     e.panel.click(*PANEL_TEXT["Modif. police"])
-    font = d.window("^Choisir une police|^Sélectionner|^Police|^Select Font")
+    font = d.window(FONT_DIALOG)
     font.activate()
     d.key("Return")
     d.gone(font)
+    e.panel.click(*PANEL_TEXT["Modif. police"])
+    escape_from(d, FONT_DIALOG)
+    # Its colours through the colour dialog, then each dialog opened again
+    # and left with Escape: the colours chosen stay.
+    colours = {"Couleur de fond": "#c0ffee", "Couleur du texte": "#123456"}
+    for swatch, html in colours.items():
+        e.panel.click(*PANEL_TEXT[swatch])
+        pick_colour(d, html)
+    for swatch in colours:
+        e.panel.click(*PANEL_TEXT[swatch])
+        escape_from(d, COLOUR_DIALOG)
 
     # A second button, deleted again with the Delete key.
     e.tool("Quitter")
     e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
     e.sheet.click(40, 25)
     time.sleep(0.3)
+    d.key("Delete")
+    # Escape first: the button stays selected, so Delete asks again.
+    escape_from(d, "^Suppression$")
     d.key("Delete")
     e.question("Suppression", "Oui", buttons=("Oui", "Non"))
 
@@ -499,8 +542,11 @@ def menu_from_nothing(d):
     need(general[0].endswith("fond.bmp"), "the background picture was saved as %r" % general[0])
     text = section(lines, "[Texte]")
     need(text[0] == "Bienvenue sur le CD", "the text box was saved as %r" % text[0])
-    need(text[1:] == before_font[1:], "a font dialog confirmed unchanged changed the text box: %r became %r"
-         % (before_font[1:], text[1:]))
+    need(text[3:] == before_font[3:], "a font dialog confirmed unchanged, or left with Escape, changed the text "
+         "box: %r became %r" % (before_font[3:], text[3:]))
+    saved = [int(value) for value in text[1:3]]
+    need(saved == [vb_colour(html) for html in colours.values()],
+         "the text box's colours chosen as %r were saved as %r" % (list(colours.values()), saved))
     buttons = [i for i, line in enumerate(lines) if line == "[Bouton]"]
     need(len(buttons) == 1, "%d buttons saved, not the one left after the deletion" % len(buttons))
     button = button_block(lines, 1)
