@@ -39,15 +39,25 @@ SOMBRE_WINDOW = (0x8B, 0x8B, 0x61)
 SOMBRE_FIELD = (0xB1, 0xB3, 0x21)
 
 
+# The captions a journey finds windows by, in the editor's two languages.
+FRENCH = {"toolbox": "^Objets$", "panel": "^Paramètres$", "sheet": "^Feuille de travail", "save": "^Enregistrer",
+          "properties": "^Propriétés$"}
+ENGLISH = {"toolbox": "^Objects$", "panel": "^Settings$", "sheet": "^Worksheet", "save": "^Save",
+           "properties": "^Properties$",
+           # Shorter captions wrap less: the window's panel below "Bordure" stands elsewhere.
+           "window panel": {"Couleur de fond": (133, 189), "Minuteur": (11, 327), "timer Modif.": (140, 404)}}
+
+
 class Editor:
     """The editor's four main windows, once it has started."""
 
-    def __init__(self, desktop, *args):
+    def __init__(self, desktop, *args, captions=FRENCH):
         self.d = desktop
+        self.captions = captions
         self.main = desktop.start_editor(*args)
-        self.toolbox = desktop.window("^Objets$")
-        self.panel = desktop.window("^Paramètres$")
-        self.sheet = desktop.window("^Feuille de travail")
+        self.toolbox = desktop.window(captions["toolbox"])
+        self.panel = desktop.window(captions["panel"])
+        self.sheet = desktop.window(captions["sheet"])
 
     def menu(self, title_key, *keys):
         """A command of the main window's menus, by its underlined letters."""
@@ -84,7 +94,7 @@ class Editor:
     def save_as(self, name):
         path = self.d.file(name)
         self.menu("f", "s")
-        self.d.answer_file_dialog("^Enregistrer", path)
+        self.d.answer_file_dialog(self.captions["save"], path)
         self.d.wait_for_file(path, "the project saved as " + name)
         return read_project(path)
 
@@ -197,8 +207,9 @@ def scripts(d):
 
 # --- looks ------------------------------------------------------------------
 
-def looks(d):
-    e = Editor(d)
+def looks(d, captions=FRENCH):
+    e = Editor(d, captions=captions)
+    panel_window = {**PANEL_WINDOW, **captions.get("window panel", {})}
     for name in ("Par défaut", "Sombre"):
         if name != "Par défaut":
             choose_appearance(e, name)
@@ -210,7 +221,7 @@ def looks(d):
             back = shot.commonest((left, top, 60, 40))
             if name == "Sombre" and distance(back, SOMBRE_WINDOW) > 2:
                 return "the properties panel shows %s, not the window colour of %s" % (back, name)
-            swatch = shot.commonest(rect_at(left, top, PANEL_WINDOW["Couleur de fond"], 10, 6))
+            swatch = shot.commonest(rect_at(left, top, panel_window["Couleur de fond"], 10, 6))
             if swatch != WHITE:
                 return "under %s the \"Couleur de fond :\" swatch shows %s, not the project's white" % (
                     name, swatch)
@@ -228,13 +239,13 @@ def looks(d):
         # The timer's "Modif." cannot be used until "Minuteur" is ticked: its
         # text must change when it can.
         def timer_ink():
-            return d.screenshot().ink(rect_at(left, top, PANEL_WINDOW["timer Modif."]))
+            return d.screenshot().ink(rect_at(left, top, panel_window["timer Modif."]))
         disabled = timer_ink()
-        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        e.panel.click(*panel_window["Minuteur"])
         d.wait(lambda: distance(timer_ink(), disabled) > 40,
                "under %s the timer's \"Modif.\" to look usable once \"Minuteur\" is ticked (its text %s "
                "stays as it was while disabled)" % (name, disabled), limit=10)
-        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        e.panel.click(*panel_window["Minuteur"])
         d.wait(lambda: distance(timer_ink(), disabled) <= 8, "the timer's \"Modif.\" to look disabled again",
                limit=10)
         d.keep_screenshot("looks-" + name)
@@ -254,7 +265,7 @@ def looks(d):
     d.wait(lambda: message not in untitled(), "the untitled message to close")
     e.main.click(*APPEARANCE["Fermer"])
     e.menu("f", *(["Down"] * 6), "Return")
-    info = d.window("^Propriétés$")
+    info = d.window(captions["properties"])
     shot = d.screenshot()
     left, top, _, _ = info.geometry()
     # Under "Sombre": what cannot be edited on the window's colour, the notes on the fields'.
@@ -266,9 +277,22 @@ def looks(d):
     d.type("vu sous Sombre")
     info.click(*INFO_VALIDER)
     d.gone(info)
+    # "Enregistrer" left with Escape writes nothing and keeps the editor going.
+    e.menu("f", "s")
+    escape_from(d, captions["save"])
+    need(os.listdir(d.files) == [], "the save dialog left with Escape wrote %r" % os.listdir(d.files))
     lines = e.save_as("looks.qor")
     notes = section(lines, "[Auteur]")[3]
     need(notes == "vu sous Sombre", "the notes typed were saved as %r" % notes)
+
+
+def looks_in_english(d):
+    """The same journey with English chosen in the user's settings."""
+    settings = os.path.join(d.home, ".config", "QOR")
+    os.makedirs(settings)
+    with open(os.path.join(settings, "QOR.ini"), "w") as f:
+        f.write("[General]\nlangue=English\n")
+    looks(d, ENGLISH)
 
 
 def rect_at(left, top, centre, half_width=14, half_height=5):
@@ -614,5 +638,6 @@ JOURNEYS = {
     "build_and_run": build_and_run,
     "scripts": scripts,
     "looks": looks,
+    "looks_in_english": looks_in_english,
     "shape": shape,
 }
