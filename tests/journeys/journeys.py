@@ -264,6 +264,12 @@ def looks(d, captions=FRENCH):
     box.click(width - 54, height - 24)   # "OK"
     d.wait(lambda: message not in untitled(), "the untitled message to close")
     e.main.click(*APPEARANCE["Fermer"])
+    # Notes typed, then the dialog left with Escape: they must not come back.
+    e.menu("f", *(["Down"] * 6), "Return")
+    info = d.window(captions["properties"])
+    info.click(*INFO_NOTES)
+    d.type("oublié ")
+    escape_from(d, captions["properties"])
     e.menu("f", *(["Down"] * 6), "Return")
     info = d.window(captions["properties"])
     shot = d.screenshot()
@@ -413,6 +419,15 @@ WIZARD = {"name": (566, 114), "Ajouter": (220, 229), "Texte": (447, 122), "text"
 
 def wizard(d):
     e = Editor(d)
+    # Escape on the question before the wizard: no wizard, and asked again.
+    e.menu("f", "n", "a")
+    escape_from(d, "^Enregistrement$")
+    try:
+        d.window("^Assistant création$", limit=2)
+    except JourneyFailed:
+        pass
+    else:
+        raise JourneyFailed("the wizard opened although its question was left with Escape")
     e.menu("f", "n", "a")
     e.question("Enregistrement", "Non")
     wz = d.window("^Assistant création$")
