@@ -249,7 +249,7 @@ def looks(d, captions=FRENCH):
         d.wait(lambda: distance(timer_ink(), disabled) <= 8, "the timer's \"Modif.\" to look disabled again",
                limit=10)
         d.keep_screenshot("looks-" + name)
-    # A message specified without a title shows none: "Sauver" with no name.
+    # A message given no title shows none: "Sauver" with no name.
     e.menu("o", "a")
     d.wait(lambda: e.main.geometry()[3] > 200, "the appearance editor to open")
     def untitled():
