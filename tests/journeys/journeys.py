@@ -39,15 +39,25 @@ SOMBRE_WINDOW = (0x8B, 0x8B, 0x61)
 SOMBRE_FIELD = (0xB1, 0xB3, 0x21)
 
 
+# The captions a journey finds windows by, in the editor's two languages.
+FRENCH = {"toolbox": "^Objets$", "panel": "^Paramètres$", "sheet": "^Feuille de travail", "save": "^Enregistrer",
+          "properties": "^Propriétés$"}
+ENGLISH = {"toolbox": "^Objects$", "panel": "^Settings$", "sheet": "^Worksheet", "save": "^Save",
+           "properties": "^Properties$",
+           # Shorter captions wrap less: the window's panel below "Bordure" stands elsewhere.
+           "window panel": {"Couleur de fond": (133, 189), "Minuteur": (11, 327), "timer Modif.": (140, 404)}}
+
+
 class Editor:
     """The editor's four main windows, once it has started."""
 
-    def __init__(self, desktop, *args):
+    def __init__(self, desktop, *args, captions=FRENCH):
         self.d = desktop
+        self.captions = captions
         self.main = desktop.start_editor(*args)
-        self.toolbox = desktop.window("^Objets$")
-        self.panel = desktop.window("^Paramètres$")
-        self.sheet = desktop.window("^Feuille de travail")
+        self.toolbox = desktop.window(captions["toolbox"])
+        self.panel = desktop.window(captions["panel"])
+        self.sheet = desktop.window(captions["sheet"])
 
     def menu(self, title_key, *keys):
         """A command of the main window's menus, by its underlined letters."""
@@ -84,7 +94,7 @@ class Editor:
     def save_as(self, name):
         path = self.d.file(name)
         self.menu("f", "s")
-        self.d.answer_file_dialog("^Enregistrer", path)
+        self.d.answer_file_dialog(self.captions["save"], path)
         self.d.wait_for_file(path, "the project saved as " + name)
         return read_project(path)
 
@@ -110,6 +120,8 @@ def button_block(lines, number):
 
 SCRIPT_TEXT_AREA = (300, 200)
 SCRIPT_EDITOR = {"Assistant": (130, 12)}
+# The procedure list sits at the strip's right end, this far from the edge.
+SCRIPT_PROCEDURES_FROM_RIGHT = (98, 12)
 
 
 def scripts(d):
@@ -155,14 +167,25 @@ def scripts(d):
     for _ in range(8):
         e.panel.click(width - 7, height - 10)
     e.panel.click(*PANEL_SCROLLED["Minuteur"])
-    for button, caption, typed in ((PANEL_SCROLLED["timer Modif."], "^Code VBS du minuteur$", "y=2"),
-                                   (PANEL_SCROLLED["global Modif."], "^Code VBS", "dim zz")):
+    for button, caption, typed in ((PANEL_SCROLLED["timer Modif."], "^Code VBS du minuteur$", "y=2\n"),
+                                   (PANEL_SCROLLED["global Modif."], "^Code VBS",
+                                    "dim zz\nsub aa\nend sub\nsub bb\nend sub")):
         e.panel.click(*button)
         editor = d.window(caption)
         editor.click(*SCRIPT_TEXT_AREA)
         d.key("ctrl+a", "Delete")
-        d.type(typed + "\n")
+        d.type(typed)
         time.sleep(0.3)
+        if "sub bb" in typed:
+            # The second procedure picked from the list: the caret goes to
+            # its declaration, where a line is then typed (checked below).
+            _, _, width, _ = editor.geometry()
+            editor.click(width - SCRIPT_PROCEDURES_FROM_RIGHT[0], SCRIPT_PROCEDURES_FROM_RIGHT[1])
+            time.sleep(0.4)
+            d.key("Down", "Down", "Return")
+            time.sleep(0.3)
+            d.type("zz=3\n")
+            time.sleep(0.3)
         e.close_window(editor)
 
     lines = e.save_as("scripts.qor")
@@ -171,14 +194,22 @@ def scripts(d):
          "the hover script was saved as %r, not formatted as typed" % hover)
     need(any("Bonjour" in line for line in hover[2:]),
          "the assistant's message is not in the hover script %r" % hover)
-    for formatted in ("y = 2¤", "Dim zz¤"):
-        need(formatted in lines, "no slot was saved as %r (typed, then formatted by Enter)" % formatted)
+    need("y = 2¤" in lines, "the timer's slot was not saved as \"y = 2\" (typed, then formatted by Enter)")
+    globals_ = [line.split("¤") for line in lines if line.startswith("Dim zz¤")]
+    need(globals_, "no global slot starting with \"Dim zz\" was saved")
+    script = [line.strip().lower() for line in globals_[0]]
+    need("sub bb" in script, "the global slot %r lost its second procedure" % globals_[0])
+    at = script.index("sub bb")
+    need(script[at - 1] == "zz = 3" and script[:3] == ["dim zz", "sub aa", "end sub"],
+         "the line typed after picking \"bb\" from the procedure list is not right above its "
+         "declaration: the global slot was saved as %r" % globals_[0])
 
 
 # --- looks ------------------------------------------------------------------
 
-def looks(d):
-    e = Editor(d)
+def looks(d, captions=FRENCH):
+    e = Editor(d, captions=captions)
+    panel_window = {**PANEL_WINDOW, **captions.get("window panel", {})}
     for name in ("Par défaut", "Sombre"):
         if name != "Par défaut":
             choose_appearance(e, name)
@@ -190,7 +221,7 @@ def looks(d):
             back = shot.commonest((left, top, 60, 40))
             if name == "Sombre" and distance(back, SOMBRE_WINDOW) > 2:
                 return "the properties panel shows %s, not the window colour of %s" % (back, name)
-            swatch = shot.commonest(rect_at(left, top, PANEL_WINDOW["Couleur de fond"], 10, 6))
+            swatch = shot.commonest(rect_at(left, top, panel_window["Couleur de fond"], 10, 6))
             if swatch != WHITE:
                 return "under %s the \"Couleur de fond :\" swatch shows %s, not the project's white" % (
                     name, swatch)
@@ -208,17 +239,17 @@ def looks(d):
         # The timer's "Modif." cannot be used until "Minuteur" is ticked: its
         # text must change when it can.
         def timer_ink():
-            return d.screenshot().ink(rect_at(left, top, PANEL_WINDOW["timer Modif."]))
+            return d.screenshot().ink(rect_at(left, top, panel_window["timer Modif."]))
         disabled = timer_ink()
-        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        e.panel.click(*panel_window["Minuteur"])
         d.wait(lambda: distance(timer_ink(), disabled) > 40,
                "under %s the timer's \"Modif.\" to look usable once \"Minuteur\" is ticked (its text %s "
                "stays as it was while disabled)" % (name, disabled), limit=10)
-        e.panel.click(*PANEL_WINDOW["Minuteur"])
+        e.panel.click(*panel_window["Minuteur"])
         d.wait(lambda: distance(timer_ink(), disabled) <= 8, "the timer's \"Modif.\" to look disabled again",
                limit=10)
         d.keep_screenshot("looks-" + name)
-    # A message specified without a title shows none: "Sauver" with no name.
+    # A message given no title shows none: "Sauver" with no name.
     e.menu("o", "a")
     d.wait(lambda: e.main.geometry()[3] > 200, "the appearance editor to open")
     def untitled():
@@ -233,8 +264,14 @@ def looks(d):
     box.click(width - 54, height - 24)   # "OK"
     d.wait(lambda: message not in untitled(), "the untitled message to close")
     e.main.click(*APPEARANCE["Fermer"])
+    # Notes typed, then the dialog left with Escape: they must not come back.
     e.menu("f", *(["Down"] * 6), "Return")
-    info = d.window("^Propriétés$")
+    info = d.window(captions["properties"])
+    info.click(*INFO_NOTES)
+    d.type("oublié ")
+    escape_from(d, captions["properties"])
+    e.menu("f", *(["Down"] * 6), "Return")
+    info = d.window(captions["properties"])
     shot = d.screenshot()
     left, top, _, _ = info.geometry()
     # Under "Sombre": what cannot be edited on the window's colour, the notes on the fields'.
@@ -246,9 +283,22 @@ def looks(d):
     d.type("vu sous Sombre")
     info.click(*INFO_VALIDER)
     d.gone(info)
+    # "Enregistrer" left with Escape writes nothing and keeps the editor going.
+    e.menu("f", "s")
+    escape_from(d, captions["save"])
+    need(os.listdir(d.files) == [], "the save dialog left with Escape wrote %r" % os.listdir(d.files))
     lines = e.save_as("looks.qor")
     notes = section(lines, "[Auteur]")[3]
     need(notes == "vu sous Sombre", "the notes typed were saved as %r" % notes)
+
+
+def looks_in_english(d):
+    """The same journey with English chosen in the user's settings."""
+    settings = os.path.join(d.home, ".config", "QOR")
+    os.makedirs(settings)
+    with open(os.path.join(settings, "QOR.ini"), "w") as f:
+        f.write("[General]\nlangue=English\n")
+    looks(d, ENGLISH)
 
 
 def rect_at(left, top, centre, half_width=14, half_height=5):
@@ -369,6 +419,15 @@ WIZARD = {"name": (566, 114), "Ajouter": (220, 229), "Texte": (447, 122), "text"
 
 def wizard(d):
     e = Editor(d)
+    # Escape on the question before the wizard: no wizard, and asked again.
+    e.menu("f", "n", "a")
+    escape_from(d, "^Enregistrement$")
+    try:
+        d.window("^Assistant création$", limit=2)
+    except JourneyFailed:
+        pass
+    else:
+        raise JourneyFailed("the wizard opened although its question was left with Escape")
     e.menu("f", "n", "a")
     e.question("Enregistrement", "Non")
     wz = d.window("^Assistant création$")
@@ -422,7 +481,33 @@ def wizard(d):
 # --- a menu from nothing ---------------------------------------------------------
 
 PANEL_WINDOW_BROWSE_BACKGROUND = (141, 58)
-PANEL_TEXT = {"Modif. police": (128, 101)}
+PANEL_TEXT = {"Couleur de fond": (115, 45), "Couleur du texte": (115, 73), "Modif. police": (128, 101)}
+COLOUR_DIALOG = "^Select Colou?r|^Sélectionner une couleur|^Couleur"
+FONT_DIALOG = "^Choisir une police|^Sélectionner|^Police|^Select Font"
+
+
+def escape_from(d, caption):
+    """A dialog left with Escape, as a person changes their mind."""
+    dialog = d.window(caption)
+    dialog.activate()
+    d.key("Escape")
+    d.gone(dialog)
+
+
+def pick_colour(d, html):
+    """The colour dialog answered by typing into its HTML field."""
+    dialog = d.window(COLOUR_DIALOG)
+    dialog.activate()
+    d.key("alt+h", "ctrl+a")
+    d.type(html)
+    d.key("Return")
+    d.gone(dialog)
+
+
+def vb_colour(html):
+    """#rrggbb as the project file writes a colour: blue, green, red from the top byte down."""
+    red, green, blue = (int(html[i:i + 2], 16) for i in (1, 3, 5))
+    return blue << 16 | green << 8 | red
 PANEL_BUTTON_TRANSPARENT = (23, 334)
 
 
@@ -445,6 +530,9 @@ def menu_from_nothing(d):
     d.answer_file_dialog("^Image de fond", background)
     d.wait(lambda: distance(d.screenshot().pixel(left + 600, top + 500), (255, 230, 0)) <= 8,
            "the background picture on the worksheet")
+    # Asked again and left with Escape: the picture stays (checked in the file).
+    e.panel.click(*PANEL_WINDOW_BROWSE_BACKGROUND)
+    escape_from(d, "^Image de fond")
 
     # A text box, typed into where it stands.
     e.tool("Créer")
@@ -455,16 +543,30 @@ def menu_from_nothing(d):
     e.sheet.click(100, 60)
     time.sleep(0.3)
     e.panel.click(*PANEL_TEXT["Modif. police"])
-    font = d.window("^Choisir une police|^Sélectionner|^Police|^Select Font")
+    font = d.window(FONT_DIALOG)
     font.activate()
     d.key("Return")
     d.gone(font)
+    e.panel.click(*PANEL_TEXT["Modif. police"])
+    escape_from(d, FONT_DIALOG)
+    # Its colours through the colour dialog, then each dialog opened again
+    # and left with Escape: the colours chosen stay.
+    colours = {"Couleur de fond": "#c0ffee", "Couleur du texte": "#123456"}
+    for swatch, html in colours.items():
+        e.panel.click(*PANEL_TEXT[swatch])
+        pick_colour(d, html)
+    for swatch in colours:
+        e.panel.click(*PANEL_TEXT[swatch])
+        escape_from(d, COLOUR_DIALOG)
 
     # A second button, deleted again with the Delete key.
     e.tool("Quitter")
     e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
     e.sheet.click(40, 25)
     time.sleep(0.3)
+    d.key("Delete")
+    # Escape first: the button stays selected, so Delete asks again.
+    escape_from(d, "^Suppression$")
     d.key("Delete")
     e.question("Suppression", "Oui", buttons=("Oui", "Non"))
 
@@ -479,8 +581,11 @@ def menu_from_nothing(d):
     need(general[0].endswith("fond.bmp"), "the background picture was saved as %r" % general[0])
     text = section(lines, "[Texte]")
     need(text[0] == "Bienvenue sur le CD", "the text box was saved as %r" % text[0])
-    need(text[1:] == before_font[1:], "a font dialog confirmed unchanged changed the text box: %r became %r"
-         % (before_font[1:], text[1:]))
+    need(text[3:] == before_font[3:], "a font dialog confirmed unchanged, or left with Escape, changed the text "
+         "box: %r became %r" % (before_font[3:], text[3:]))
+    saved = [int(value) for value in text[1:3]]
+    need(saved == [vb_colour(html) for html in colours.values()],
+         "the text box's colours chosen as %r were saved as %r" % (list(colours.values()), saved))
     buttons = [i for i, line in enumerate(lines) if line == "[Bouton]"]
     need(len(buttons) == 1, "%d buttons saved, not the one left after the deletion" % len(buttons))
     button = button_block(lines, 1)
@@ -548,5 +653,6 @@ JOURNEYS = {
     "build_and_run": build_and_run,
     "scripts": scripts,
     "looks": looks,
+    "looks_in_english": looks_in_english,
     "shape": shape,
 }
