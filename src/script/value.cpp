@@ -235,6 +235,31 @@ void StringRep::destroy(StringRep* rep)
         std::free(rep);
 }
 
+bool StringRep::rewrite(StringRep* rep, const StringRep* x, const StringRep* y)
+{
+    std::size_t size = std::size_t(x->size) + y->size;
+    if (rep->refs != 1 || rep->size > kShortMax || size > kShortMax)
+        return false;
+    if (size != rep->size) {
+        StringSpace& space = qor::script::space();
+        std::size_t live = space.liveStringBytes - rep->size + size;
+        if (size > space.limits.maxStringBytes || live > space.limits.maxLiveStringBytes)
+            return false;
+        space.liveStringBytes = live;
+    }
+    // Read before the bytes move, as either side may be this very string.
+    std::int32_t chars = x->chars >= 0 && y->chars >= 0 ? x->chars + y->chars : -1;
+    std::uint32_t xSize = x->size;
+    // y first: its new place lies past x's bytes, which stay where they are
+    // when x is this string.
+    std::memmove(rep->data + xSize, y->data, y->size);
+    std::memmove(rep->data, x->data, xSize);
+    rep->size = std::uint32_t(size);
+    rep->data[size] = '\0';
+    rep->chars = chars;
+    return true;
+}
+
 std::int32_t StringRep::charCount()
 {
     if (chars < 0) {
