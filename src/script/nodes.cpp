@@ -555,6 +555,8 @@ Flow Block::guarded(const Stmt& s, Frame& f)
 
 Flow AssignLocal::assign(Frame& f) const
 {
+    if (join && join->joinInto(f, f.locals[slot]))
+        return Flow::Normal;
     Value v = value->eval(f);
     if (v.type() >= Type::Object)
         v = isSet ? Runtime::setValue(std::move(v)) : Runtime::letValue(std::move(v));
@@ -567,6 +569,8 @@ Flow AssignLocal::assign(Frame& f) const
 Flow AssignGlobal::assign(Frame& f) const
 {
     Global& g = *global;
+    if (join && g.kind == Global::Variable && join->joinInto(f, g.value))
+        return Flow::Normal;
     Value v = value->eval(f);
     // Checked after the value: evaluating it may have run a script
     // that changed what the name is.

@@ -298,6 +298,19 @@ struct ConcatExpr final : Expr {
         QOR_OPERANDS(f);
         return concat(a, b);
     }
+    // target = left & right written into target's own string when both
+    // sides are strings read in place and target alone holds a string
+    // with room; false when the general way must run.
+    bool joinInto(Frame& f, Value& target) const
+    {
+        if (!target.isString() || !target.asStringRep())
+            return false;
+        const Value* a = left.peek(f);
+        const Value* b = right.peek(f);
+        if (!a || !b || !a->isString() || !b->isString() || !a->asStringRep() || !b->asStringRep())
+            return false;
+        return StringRep::rewrite(target.asStringRep(), a->asStringRep(), b->asStringRep());
+    }
 };
 
 struct BuiltinCall final : Expr {
@@ -376,10 +389,13 @@ struct AssignLocal final : Stmt {
     ExprPtr value;
     bool isSet;
     SumInto sum = nullptr;  // counters: x = x + 1 without a virtual call or a copy
+    const ConcatExpr* join = nullptr;
     AssignLocal(int s, ExprPtr v, bool set) : slot(s), value(std::move(v)), isSet(set)
     {
-        if (!isSet)
+        if (!isSet) {
             sum = sumInto(value.get());
+            join = dynamic_cast<const ConcatExpr*>(value.get());
+        }
     }
     // The sums here, the rest in assign: the hot path stays small enough
     // to need no saved registers.
@@ -400,10 +416,13 @@ struct AssignGlobal final : Stmt {
     ExprPtr value;
     bool isSet;
     SumInto sum = nullptr;
+    const ConcatExpr* join = nullptr;
     AssignGlobal(struct Global* g, ExprPtr v, bool set) : global(g), value(std::move(v)), isSet(set)
     {
-        if (!isSet)
+        if (!isSet) {
             sum = sumInto(value.get());
+            join = dynamic_cast<const ConcatExpr*>(value.get());
+        }
     }
     Flow exec(Frame& f) const override
     {

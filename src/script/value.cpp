@@ -71,11 +71,35 @@ struct StringSpace {
     std::size_t liveStringBytes = 0;
     ShortBlocks shortBlocks;
 };
-thread_local StringSpace tSpace;
+
+// The hot path reads a plain pointer: a thread-local with a constructor or
+// destructor costs an extra guard call on every access with some
+// toolchains (MinGW's emulated TLS), which doubled the price of each string
+// made and freed. The space itself is built on a thread's first string and
+// freed with the thread by its owner, which nothing else touches.
+thread_local StringSpace* tSpacePtr = nullptr;
+
+struct SpaceOwner {
+    StringSpace space;
+    ~SpaceOwner() { tSpacePtr = nullptr; }
+};
+
+StringSpace& newSpace()
+{
+    thread_local SpaceOwner owner;
+    tSpacePtr = &owner.space;
+    return owner.space;
+}
+
+inline StringSpace& space()
+{
+    StringSpace* p = tSpacePtr;
+    return p ? *p : newSpace();
+}
 }  // namespace
 
-MemoryLimits& memoryLimits() { return tSpace.limits; }
-std::size_t liveStringBytes() { return tSpace.liveStringBytes; }
+MemoryLimits& memoryLimits() { return space().limits; }
+std::size_t liveStringBytes() { return space().liveStringBytes; }
 
 const Value& Value::emptyValue()
 {
@@ -176,7 +200,7 @@ void Value::release()
 
 StringRep* StringRep::allocate(std::size_t size)
 {
-    StringSpace& space = tSpace;
+    StringSpace& space = qor::script::space();
     if (size > space.limits.maxStringBytes || size > 0x7fffffffu)
         raise(errc::OutOfStringSpace);
     if (space.liveStringBytes + size > space.limits.maxLiveStringBytes)
@@ -203,12 +227,37 @@ StringRep* StringRep::make(std::string_view text)
 
 void StringRep::destroy(StringRep* rep)
 {
-    StringSpace& space = tSpace;
+    StringSpace& space = qor::script::space();
     space.liveStringBytes -= rep->size;
     if (rep->size <= kShortMax)
         space.shortBlocks.give(rep);
     else
         std::free(rep);
+}
+
+bool StringRep::rewrite(StringRep* rep, const StringRep* x, const StringRep* y)
+{
+    std::size_t size = std::size_t(x->size) + y->size;
+    if (rep->refs != 1 || rep->size > kShortMax || size > kShortMax)
+        return false;
+    if (size != rep->size) {
+        StringSpace& space = qor::script::space();
+        std::size_t live = space.liveStringBytes - rep->size + size;
+        if (size > space.limits.maxStringBytes || live > space.limits.maxLiveStringBytes)
+            return false;
+        space.liveStringBytes = live;
+    }
+    // Read before the bytes move, as either side may be this very string.
+    std::int32_t chars = x->chars >= 0 && y->chars >= 0 ? x->chars + y->chars : -1;
+    std::uint32_t xSize = x->size;
+    // y first: its new place lies past x's bytes, which stay where they are
+    // when x is this string.
+    std::memmove(rep->data + xSize, y->data, y->size);
+    std::memmove(rep->data, x->data, xSize);
+    rep->size = std::uint32_t(size);
+    rep->data[size] = '\0';
+    rep->chars = chars;
+    return true;
 }
 
 std::int32_t StringRep::charCount()
@@ -229,7 +278,7 @@ ArrayRep* ArrayRep::make(std::vector<std::int32_t> upper, bool fixedSize)
         if (u < -1)
             raise(errc::SubscriptOutOfRange);
         count *= std::size_t(u) + 1;
-        if (count > tSpace.limits.maxArrayItems)
+        if (count > space().limits.maxArrayItems)
             raise(errc::OutOfMemory);
     }
     auto* a = new ArrayRep;

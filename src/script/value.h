@@ -142,6 +142,10 @@ struct StringRep {
     static StringRep* allocate(std::size_t size);
     static StringRep* make(std::string_view text);
     static void destroy(StringRep* rep);
+    // Rewrites rep, held by one value only, to hold x then y when its block
+    // has room, so that s = a & b in a loop makes no new string; false
+    // (rep untouched) when it has not. Either side may be rep itself.
+    static bool rewrite(StringRep* rep, const StringRep* x, const StringRep* y);
     std::int32_t charCount();
     bool isAscii() { return charCount() == std::int32_t(size); }
 };

@@ -94,7 +94,12 @@ INSTANTIATE_TEST_SUITE_P(Statements, Conformance, ::testing::Values(
     Case{"x = 9\nIf x = 1 Then\n MsgBox 1\nElseIf x = 2 Then\n MsgBox 2\nElse\n MsgBox 3\nEnd If", "3"},
     Case{"x = Null\nIf x Then MsgBox \"yes\" Else MsgBox \"no\"", "no"},
     Case{"If \"True\" Then MsgBox \"t\"\nIf \"0\" Then MsgBox \"z\" Else MsgBox \"nz\"", "t|nz"},
-    Case{"s = \"\"\nFor i = 1 To 3\n s = s & i\nNext\nMsgBox s & \" \" & i", "123 4"},
+    // Joins written back into their own target (a local, a module
+    // variable, on either side, twice itself) beside one still shared.
+    Case{"Function F(x)\n Dim s, t, u, i\n s = x: t = s\n For i = 1 To 3\n  s = s & i\n  s = \"<\" & s\n Next\n"
+         " u = s: s = s & s: s = s & s\n F = s & \" \" & t & \" \" & u & \" \" & Len(s) & \" \" & i\nEnd Function\n"
+         "g = \"\xc3\xa9\": g = g & \"\xc3\xa9\": g = g & g\nMsgBox F(\"a\") & \"|\" & g & Len(g)",
+         "<<<a123<<<a123<<<a123<<<a123 a <<<a123 28 4|\xc3\xa9\xc3\xa9\xc3\xa9\xc3\xa9" "4"},
     Case{"For i = 3 To 1 Step -1: s = s & i: Next: MsgBox s", "321"},
     Case{"For i = 1 To 2 Step 0.5: s = s & i & \",\": Next: MsgBox s", "1,1.5,2,"},
     Case{"For i = 1 To 0: MsgBox \"never\": Next: MsgBox i", "1"},
