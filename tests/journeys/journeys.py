@@ -105,6 +105,18 @@ class Editor:
         self.d.gone(window)
 
 
+def answer_each(d, caption, at_most, wait, answer):
+    """Answers each window of that caption as it shows, until none comes."""
+    for _ in range(at_most):
+        try:
+            window = d.window(caption, limit=wait)
+        except JourneyFailed:
+            return
+        window.activate()
+        answer()
+        d.gone(window)
+
+
 def colours_of(desktop):
     return {name: write_bmp(desktop.file(name + ".bmp"), 60, 24, colour)
             for name, colour in (("rouge", (255, 0, 0)), ("vert", (0, 160, 0)), ("bleu", (0, 0, 255)))}
@@ -148,15 +160,7 @@ def scripts(d):
     editor.click(*SCRIPT_EDITOR["Assistant"])
     time.sleep(0.4)
     d.key("Down", "Return")
-    for _ in range(4):
-        try:
-            prompt = d.window("^Bo[iî]te de dialogue", limit=3)
-        except JourneyFailed:
-            break
-        prompt.activate()
-        d.type("Bonjour")
-        d.key("Return")
-        d.gone(prompt)
+    answer_each(d, "^Bo[iî]te de dialogue", 4, 3, lambda: (d.type("Bonjour"), d.key("Return")))
     e.close_window(editor)
 
     # The timer's and the global slots, from the window's panel scrolled down.
@@ -607,14 +611,7 @@ def rough_hands(d):
     d.click_at(left + TOOLBOX["Quitter"][0], top + TOOLBOX["Quitter"][1], double=True)
     d.window("^Image normale")
     # Escape in each image dialog, as many as the clicks opened.
-    for _ in range(8):
-        try:
-            dialog = d.window("^Image ", limit=2)
-        except JourneyFailed:
-            break
-        dialog.activate()
-        d.key("Escape")
-        d.gone(dialog)
+    answer_each(d, "^Image ", 8, 2, lambda: d.key("Escape"))
     e.tool("Code VBS")
     e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
     # Closed while the formatter waits to run on the line just ended.
