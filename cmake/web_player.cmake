@@ -1,11 +1,11 @@
 # The browser player's own build tree, compiled to WebAssembly with
 # emscripten: only the libraries the player stands on, and the engine's loop
-# benchmark beside it. -O2 rather than -Os: inlining spares the engine most
-# of its calls through JavaScript's exception trampolines (loops 1.3 to 3
-# times faster) for 4 KB more of script.
+# benchmark beside it. The engine's exceptions are WebAssembly's own: the
+# JavaScript ones send every call that may throw through a trampoline in
+# JavaScript, which made script loops several times slower.
 set(QOR_WEB_OPTIMISE -O2 CACHE STRING "The optimisation of the browser player's code")
-add_compile_options(${QOR_WEB_OPTIMISE} -ffunction-sections -fdata-sections -fexceptions)
-add_link_options(-fexceptions)
+add_compile_options(${QOR_WEB_OPTIMISE} -ffunction-sections -fdata-sections -fwasm-exceptions)
+add_link_options(-fwasm-exceptions)
 
 add_subdirectory(src/text)
 add_subdirectory(src/model)
@@ -17,8 +17,8 @@ if(QOR_BUILD_BENCH)
   add_executable(script_loops ${CMAKE_SOURCE_DIR}/bench/win32/script_loops_main.cpp)
   target_include_directories(script_loops PRIVATE ${CMAKE_SOURCE_DIR}/bench)
   target_link_libraries(script_loops PRIVATE qorscript)
-  # Loops measure the engine as the page runs it: the same optimisation,
-  # exceptions and Asyncify instrumentation.
-  target_link_options(script_loops PRIVATE ${QOR_WEB_OPTIMISE} -sTOTAL_STACK=8MB -sALLOW_MEMORY_GROWTH=1 -sENVIRONMENT=node,web -sSINGLE_FILE=1 -sASYNCIFY=1)
+  # Loops measure the engine as the page runs it: the same optimisation
+  # and exceptions.
+  target_link_options(script_loops PRIVATE ${QOR_WEB_OPTIMISE} -sTOTAL_STACK=8MB -sALLOW_MEMORY_GROWTH=1 -sENVIRONMENT=node,web -sSINGLE_FILE=1)
   qor_warnings(script_loops)
 endif()

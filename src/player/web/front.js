@@ -143,13 +143,12 @@
     };
     var result;
     try {
-      result = core.ccall(name, null, types, args, { async: true });
+      result = core.qorCall(name, null, types, args);
     } catch (e) {
       done();
       throw e;
     }
-    if (result && typeof result.then === 'function') result.then(done, done);
-    else done();
+    result.then(done, done);
   }
 
   // ---- the window ---------------------------------------------------------------
@@ -485,6 +484,24 @@
       .then(function (a) { return a.button === 1 ? a.text : null; });
   }
 
+  // A browser that cannot suspend the player for a box of the page: its own
+  // boxes, modal, with the nearest answers (OK is Yes, Retry, OK).
+  var NOW_ANSWERS = { 0: [1, 1], 1: [1, 2], 2: [4, 3], 3: [6, 2], 4: [6, 7], 5: [4, 2] };
+  function messageBoxNow(r) {
+    var set = r.buttons & 7;
+    var answers = NOW_ANSWERS[set < 6 ? set : 0];
+    var text = (r.title ? r.title + '\n\n' : '') + r.text;
+    if (set === 0 || set > 5) {
+      window.alert(text);
+      return answers[0];
+    }
+    return window.confirm(text) ? answers[0] : answers[1];
+  }
+
+  function inputBoxNow(r) {
+    return window.prompt(r.prompt, r.defaultText || '');
+  }
+
   // What the browser cannot do for a menu: it is told once, in French.
   var NEEDS_WINDOWS = 'Cette action a besoin du CD sous Windows :\nouvrez le menu depuis le CD sur un ordinateur Windows.';
 
@@ -602,6 +619,8 @@
     fileRead: function (path, into) { core.HEAPU8.set(fileOf(path).bytes, into); },
     messageBox: messageBox,
     inputBox: inputBox,
+    messageBoxNow: messageBoxNow,
+    inputBoxNow: inputBoxNow,
   };
 
   // ---- start --------------------------------------------------------------------
@@ -656,7 +675,7 @@
 
   // The player compiles while the pictures decode: the menu starts once both are ready.
   var started = performance.now();
-  // The player's script (a megabyte) loads after this one, so the preview
+  // The player's script (600 KB) loads after this one, so the preview
   // is on screen while it is read and compiled.
   function loadPlayer() {
     return new Promise(function (done, fail) {

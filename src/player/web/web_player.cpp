@@ -181,20 +181,26 @@ EM_JS(int, js_file_size, (const char* path), {
 EM_JS(void, js_file_read, (const char* path, char* into), {
     Module.qorPage.fileRead(UTF8ToString(path), into);
 });
-// The boxes wait for the user: the engine's stack is set aside meanwhile
-// (Asyncify) and the script goes on with the answer.
-EM_ASYNC_JS(int, js_message_box, (const char* json), {
-    return await Module.qorPage.messageBox(JSON.parse(UTF8ToString(json)));
+// The boxes wait for the user: with the browser's promise integration the
+// page's promise suspends this stack until the answer comes (the pre-js file
+// wait_for_boxes.js sets that up); without it the browser's own boxes answer
+// at once.
+EM_JS(int, js_message_box, (const char* json), {
+    const request = JSON.parse(UTF8ToString(json));
+    return Module.qorWaits ? Module.qorPage.messageBox(request) : Module.qorPage.messageBoxNow(request);
 });
 // The answer's bytes, or 0 for a cancelled box; this side frees them.
-EM_ASYNC_JS(char*, js_input_box, (const char* json), {
-    const answer = await Module.qorPage.inputBox(JSON.parse(UTF8ToString(json)));
-    if (answer === null)
-        return 0;
-    const size = lengthBytesUTF8(answer) + 1;
-    const p = _malloc(size);
-    stringToUTF8(answer, p, size);
-    return p;
+EM_JS(char*, js_input_box, (const char* json), {
+    const request = JSON.parse(UTF8ToString(json));
+    const copy = function(answer) {
+        if (answer === null)
+            return 0;
+        const size = lengthBytesUTF8(answer) + 1;
+        const p = _malloc(size);
+        stringToUTF8(answer, p, size);
+        return p;
+    };
+    return Module.qorWaits ? Module.qorPage.inputBox(request).then(copy) : copy(Module.qorPage.inputBoxNow(request));
 });
 // clang-format on
 
@@ -347,9 +353,8 @@ EMSCRIPTEN_KEEPALIVE int qor_start(const char* menuFile)
     MenuPlace place = MenuPlace::of(menuFile, '/', "D");
     s.player = std::make_unique<Player>(std::get<qor::MenuData>(std::move(loaded)), std::move(place), s.view, s.media,
                                         s.system);
-    // Scripts run about ten times slower here than in the native players:
-    // a tenth of their budget stops an endless script after about as long.
-    s.player->setScriptStepBudget(kScriptStepBudget / 10);
+    // The native players' step budget: a script that runs on the CD runs
+    // here too, and an endless one is stopped after a second or two.
     s.player->start();
     return 0;
 }

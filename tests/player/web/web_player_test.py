@@ -249,7 +249,7 @@ RUN_STATEMENT = """
 var done = arguments[arguments.length - 1];
 var answer = setInterval(function () {
   var b = document.querySelector('.qor-box-buttons button'); if (b) b.click(); }, 5);
-Promise.resolve(qorCore.ccall('qor_run_statement', 'string', ['string'], [arguments[0]], {async: true}))
+Promise.resolve(qorCore.qorCall('qor_run_statement', 'string', ['string'], [arguments[0]]))
   .then(function (r) { clearInterval(answer); done(r); }, function (e) { clearInterval(answer); done('JS ' + e); });
 """
 
@@ -369,6 +369,53 @@ def hostile(driver, program, work):
           corner[int(top) + 2][int(left) + 2])
 
 
+# Statement, what the browser's own box shows, how it is answered, the caption after.
+NATIVE_BOXES = (
+    ('Fenetre.Caption = CStr(MsgBox("Continuer ?", vbYesNo))', 'Continuer ?', 'accept', '6'),
+    ('Fenetre.Caption = CStr(MsgBox("Continuer ?", vbYesNo))', 'Continuer ?', 'dismiss', '7'),
+    ('Fenetre.Caption = CStr(MsgBox("Annuler ?", vbOKCancel))', 'Annuler ?', 'dismiss', '2'),
+    ('Fenetre.Caption = CStr(MsgBox("Info"))', 'Info', 'accept', '1'),
+    ('Fenetre.Caption = InputBox("Votre nom ?", "Titre", "Marie")', 'Votre nom ?', 'Paul', 'Paul'),
+    ('Fenetre.Caption = "[" & InputBox("Votre nom ?") & "]"', 'Votre nom ?', 'dismiss', '[]'),
+)
+
+
+def without_suspending(driver, page):
+    added = driver.execute_cdp_cmd('Page.addScriptToEvaluateOnNewDocument',
+                                   {'source': 'delete WebAssembly.Suspending; delete WebAssembly.promising;'})
+    try:
+        open_menu(driver, page)
+        for statement, shown, answer, caption in NATIVE_BOXES:
+            # Started from a timer: the browser's box blocks the page until answered.
+            driver.execute_script("var s = arguments[0]; window.qorRan = null; setTimeout(function () {"
+                                  " qorCore.qorCall('qor_run_statement', 'string', ['string'], [s])"
+                                  ".then(function (r) { window.qorRan = r; }); }, 0);", statement)
+            alert = None
+            end = time.time() + 10
+            while alert is None and time.time() < end:
+                try:
+                    alert = driver.switch_to.alert
+                    text = alert.text
+                except Exception:
+                    alert = None
+                    time.sleep(0.05)
+            if alert is None:
+                check('browser box opens', False, statement)
+                continue
+            check('browser box text', shown in text, (statement, text))
+            if answer == 'accept':
+                alert.accept()
+            elif answer == 'dismiss':
+                alert.dismiss()
+            else:
+                alert.send_keys(answer)
+                alert.accept()
+            ran = wait(driver, 'return window.qorRan !== null && [window.qorRan, document.title]', 'statement ends')
+            check('browser box answer reaches the script', ran == ['', caption], (statement, answer, ran))
+    finally:
+        driver.execute_cdp_cmd('Page.removeScriptToEvaluateOnNewDocument', added)
+
+
 def plain_page(work):
     return os.path.join(work, 'out plain', 'qor_menu2.htm')
 
@@ -476,6 +523,10 @@ def main():
             error = driver.execute_async_script(RUN_STATEMENT, statement)
             title = driver.execute_script('return document.title')
             check('box answer reaches the script', error == '' and title == caption, (statement, error, title))
+
+        # A browser without promise integration for WebAssembly answers with
+        # its own boxes, and the answer still reaches the script.
+        without_suspending(driver, plain)
 
         # The transparency picture's white cuts the window; the right
         # button opens the context menu.
