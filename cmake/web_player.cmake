@@ -2,10 +2,12 @@
 # emscripten: only the libraries the player stands on, and the engine's loop
 # benchmark beside it. The engine's exceptions are WebAssembly's own: the
 # JavaScript ones send every call that may throw through a trampoline in
-# JavaScript, which made script loops several times slower.
+# JavaScript, which made script loops several times slower. Link-time
+# optimisation lets the engine's small helpers inline across its files
+# (string loops a tenth faster).
 set(QOR_WEB_OPTIMISE -O2 CACHE STRING "The optimisation of the browser player's code")
-add_compile_options(${QOR_WEB_OPTIMISE} -ffunction-sections -fdata-sections -fwasm-exceptions)
-add_link_options(-fwasm-exceptions)
+add_compile_options(${QOR_WEB_OPTIMISE} -flto -ffunction-sections -fdata-sections -fwasm-exceptions)
+add_link_options(-fwasm-exceptions -flto)
 
 add_subdirectory(src/text)
 add_subdirectory(src/model)

@@ -75,7 +75,7 @@ def frame(driver, program, work):
         menu_ms, alone_ms, menu_ms / alone_ms, scene_ms))
 
 
-def loops(driver, build, work):
+def loops(driver, build, work, rounds=3):
     loops_js = os.path.join(build, 'web', 'script_loops.js')
     loops_page = os.path.join(work, 'loops.htm')
     with open(loops_page, 'w') as f:
@@ -83,20 +83,27 @@ def loops(driver, build, work):
                 'var Module = { arguments: ["3"], print: function (l) { window.lines.push(l); },'
                 ' };</script>'
                 '<script src="file://%s"></script></body></html>' % loops_js)
-    # The loops run as the page loads: the load ends when they do.
+    # The loops run as the page loads: the load ends when they do. Browser
+    # and native take turns, so a busy moment of the machine falls on both;
+    # the best of each is kept.
     driver.set_page_load_timeout(900)
-    driver.get('file://' + loops_page)
-    menus.wait(driver, 'return window.lines.length >= 4', 'browser loops', 60)
-    lines = driver.execute_script('return window.lines')
-    web = dict(l.split() for l in lines if len(l.split()) == 2)
-    if len(web) < 4:
-        print('browser loops printed: %r' % lines)
+    web, native = {}, {}
+
+    def best(into, lines):
+        for name, ms in (l.split() for l in lines if len(l.split()) == 2):
+            into[name] = min(float(ms), into.get(name, float('inf')))
+    for _ in range(rounds):
+        driver.get('about:blank')
+        driver.get('file://' + loops_page)
+        menus.wait(driver, 'return window.lines.length >= 8', 'browser loops', 120)
+        best(web, driver.execute_script('return window.lines'))
+        best(native, subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
+                                    text=True).stdout.split('\n'))
+    if len(web) < 8:
+        print('browser loops printed: %r' % sorted(web))
         return
-    native_out = subprocess.run([os.path.join(build, 'bench', 'script_loops'), '3'], capture_output=True,
-                                text=True).stdout
-    native = dict(l.split() for l in native_out.split('\n') if l.strip())
-    for name in ('NumLoop', 'BigLoop', 'StrLoop', 'CallLoop'):
-        w, n = float(web[name]), float(native[name])
+    for name in sorted(web, key=lambda n: (n.startswith('Top'), n)):
+        w, n = web[name], native[name]
         print('loop %-8s browser %8.1f ms, native %8.1f ms, ratio %.2f' % (name, w, n, w / n))
 
 

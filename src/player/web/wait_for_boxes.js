@@ -57,7 +57,11 @@ Module['qorCall'] = function (name, returnType, argTypes, args) {
     owned.forEach(function (p) { _free(p); });
     return out;
   };
+  // A call the browser broke off (its own stack exhausted) leaves the
+  // player's stack pointer where it was: set it back.
+  var top = stackSave();
   var fail = function (e) {
+    stackRestore(top);
     owned.forEach(function (p) { _free(p); });
     throw e;
   };

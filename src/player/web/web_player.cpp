@@ -355,6 +355,11 @@ EMSCRIPTEN_KEEPALIVE int qor_start(const char* menuFile)
                                         s.system);
     // The native players' step budget: a script that runs on the CD runs
     // here too, and an endless one is stopped after a second or two.
+    // The browser's own stack (about 1 MB) is spent three times faster than
+    // the engine's measure of it, and running out of it leaves the player
+    // half unwound: 128 KB by that measure stops a recursion at about 600
+    // calls with "Espace de pile insuffisant", well before the browser would.
+    s.player->module().setMaxStackBytes(128 * 1024);
     s.player->start();
     return 0;
 }

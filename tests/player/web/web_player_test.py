@@ -369,6 +369,17 @@ def hostile(driver, program, work):
           corner[int(top) + 2][int(left) + 2])
 
 
+# Recursion: statement, the error it ends with ('' for none), the caption after.
+DEEP_SCRIPTS = (
+    ('Fenetre.Caption = "avant"\nFunction F(x)\nF = F(x + 1)\nEnd Function\nFenetre.Caption = F(1)',
+     'n°28', 'avant'),
+    ('Function F(x)\nF = 1 + (2 * (3 + Abs(F(x + 1))))\nEnd Function\nFenetre.Caption = F(1)', 'n°28', 'avant'),
+    ('Sub S(x)\nIf x < 400 Then\nS x + 1\nElse\nFenetre.Caption = "fond " & MsgBox("Au fond")\nEnd If\nEnd Sub\nS 1',
+     '', 'fond 1'),
+    ('Function G(x)\nIf x >= 300 Then\nG = x\nElse\nG = G(x + 1)\nEnd If\nEnd Function\nFenetre.Caption = G(1)',
+     '', '300'),
+)
+
 # Statement, what the browser's own box shows, how it is answered, the caption after.
 NATIVE_BOXES = (
     ('Fenetre.Caption = CStr(MsgBox("Continuer ?", vbYesNo))', 'Continuer ?', 'accept', '6'),
@@ -523,6 +534,14 @@ def main():
             error = driver.execute_async_script(RUN_STATEMENT, statement)
             title = driver.execute_script('return document.title')
             check('box answer reaches the script', error == '' and title == caption, (statement, error, title))
+
+        # Deep recursion ends with the engine's own message before the browser's
+        # stack runs out, a box can wait deep in it, and the page plays on.
+        for statement, error, caption in DEEP_SCRIPTS:
+            ran = driver.execute_async_script(RUN_STATEMENT, statement)
+            title = driver.execute_script('return document.title')
+            check('deep script', error in ran and (not error) == (ran == '') and title == caption,
+                  (statement[:40], ran, title))
 
         # A browser without promise integration for WebAssembly answers with
         # its own boxes, and the answer still reaches the script.
