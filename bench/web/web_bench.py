@@ -41,7 +41,7 @@ def main():
             compil = os.path.getsize(os.path.join(program, 'compil.exe'))
             print('size: qor_player.js %d bytes, gzip -9 %d bytes; front.js %d bytes; compil.exe %d bytes' % (
                 len(raw), len(gzip.compress(raw, 9)), os.path.getsize(os.path.join(program, 'web', 'front.js')), compil))
-        driver = menus.start_browser(os.path.join(work, 'profile'))
+        driver = menus.start_browser('chromium', os.path.join(work, 'profile'))
         if 'frame' in wanted:
             frame(driver, program, work)
         if 'loops' in wanted:

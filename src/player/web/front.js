@@ -181,33 +181,97 @@
     });
     el.back.addEventListener('mouseleave', function () { send('qor_background_leave', [], []); });
     el.window.addEventListener('contextmenu', contextMenu);
+    el.back.addEventListener('mousedown', startDrag);
   }
 
+  // The window stands where the core puts it (centred on the page at the
+  // start, then where the visitor drags it or a script moves it); maximised
+  // it fills the page; minimised it leaves a bar at the bottom of the page,
+  // as a task bar would, that brings it back.
   function layout() {
     var w = page.scene.window;
-    var width = w.fullScreen ? window.innerWidth : w.width;
-    var height = w.fullScreen ? window.innerHeight : w.height;
+    var full = w.fullScreen || w.windowState === 2;
+    var width = full ? window.innerWidth : w.width;
+    var height = full ? window.innerHeight : w.height;
     var s = el.window.style;
     s.width = width + 'px';
     s.height = height + 'px';
-    s.left = Math.max(0, Math.floor((window.innerWidth - width) / 2)) + 'px';
-    s.top = Math.max(0, Math.floor((window.innerHeight - height) / 2)) + 'px';
+    s.left = (full ? 0 : w.left) + 'px';
+    s.top = (full ? 0 : w.top) + 'px';
     s.display = w.visible && w.windowState !== 1 ? 'block' : 'none';
+    var minimised = w.visible && w.windowState === 1 && !page.closed;
+    if (minimised && !el.restore) {
+      el.restore = document.createElement('button');
+      el.restore.className = 'qor-restore';
+      el.restore.onclick = function () {
+        page.scene.window.windowState = 0;
+        layout();
+        send('qor_window_state', ['number'], [0]);
+      };
+      document.body.appendChild(el.restore);
+    }
+    if (el.restore) {
+      el.restore.style.display = minimised ? 'block' : 'none';
+      el.restore.textContent = w.caption || ' ';
+    }
+  }
+
+  // A window without title bar moves when its background is dragged; the
+  // core learns where it was dropped, so scripts read Left and Top.
+  function startDrag(e) {
+    var w = page.scene && page.scene.window;
+    if (e.button !== 0 || !w || w.fullScreen || w.windowState === 2) return;
+    if (e.target !== el.back && e.target !== el.backImage && e.target !== el.border) return;
+    e.preventDefault();
+    var from = { x: e.clientX - w.left, y: e.clientY - w.top, left: w.left, top: w.top };
+    var move = function (m) {
+      w = page.scene.window;
+      w.left = m.clientX - from.x;
+      w.top = m.clientY - from.y;
+      el.window.style.left = w.left + 'px';
+      el.window.style.top = w.top + 'px';
+    };
+    var drop = function (u) {
+      if (u.button !== 0) return;
+      document.removeEventListener('mousemove', move, true);
+      document.removeEventListener('mouseup', drop, true);
+      w = page.scene.window;
+      if (w.left === from.left && w.top === from.top) return;
+      page.dragged = true;
+      send('qor_window_moved', ['number', 'number'], [w.left, w.top]);
+    };
+    document.addEventListener('mousemove', move, true);
+    document.addEventListener('mouseup', drop, true);
   }
 
   // The polygon and the transparency picture's white (or see-through)
-  // pixels are cut out; a window cut away entirely keeps its rectangle so
-  // it can still be seen and closed.
+  // pixels are cut out, what is left is what both keep; a window cut away
+  // entirely keeps its rectangle so it can still be seen and closed.
   function applyCut() {
     var w = page.scene.window;
     var runs = [];
     for (var i = 0; i + 2 < w.shape.length; i += 3)
       runs.push('M' + w.shape[i] + ' ' + w.shape[i + 1] + 'h' + w.shape[i + 2] + 'v1h' + -w.shape[i + 2] + 'z');
-    el.window.style.clipPath = runs.length ? "path('" + runs.join('') + "')" : 'none';
     var image = imageOf(w.transparencyImage);
-    el.cut.style.clipPath = image ? imageCut(image, w.width, w.height) : 'none';
+    var mask = image ? imageCut(image, w.width, w.height) : null;
+    var nothingLeft = (w.outline && !runs.length) || (mask && !mask.runs.length) ||
+                      (runs.length && mask && !overlaps(w.shape, mask.kept, w.width));
+    el.window.style.clipPath = runs.length && !nothingLeft ? "path('" + runs.join('') + "')" : 'none';
+    el.cut.style.clipPath = mask && !nothingLeft ? "path('" + mask.runs.join('') + "')" : 'none';
   }
 
+  // Whether a run of the outline meets a pixel the picture keeps.
+  function overlaps(shape, kept, width) {
+    for (var i = 0; i + 2 < shape.length; i += 3) {
+      var row = shape[i + 1] * width;
+      for (var x = Math.max(0, shape[i]), end = Math.min(width, shape[i] + shape[i + 2]); x < end; ++x)
+        if (kept[row + x]) return true;
+    }
+    return false;
+  }
+
+  // The rows of pixels the picture keeps, as path runs, and a map of them;
+  // null when its pixels cannot be read (no cut then).
   function imageCut(image, width, height) {
     var canvas = document.createElement('canvas');
     canvas.width = width;
@@ -216,8 +280,9 @@
     g.imageSmoothingEnabled = false;
     g.drawImage(image.img, 0, 0, width, height);
     var data;
-    try { data = g.getImageData(0, 0, width, height).data; } catch (e) { return 'none'; }
+    try { data = g.getImageData(0, 0, width, height).data; } catch (e) { return null; }
     var path = [];
+    var kept = new Uint8Array(width * height);
     for (var y = 0; y < height; ++y) {
       for (var x = 0; x < width;) {
         var o = (y * width + x) * 4;
@@ -227,12 +292,13 @@
         while (x < width) {
           o = (y * width + x) * 4;
           if (data[o + 3] < 128 || (data[o] === 255 && data[o + 1] === 255 && data[o + 2] === 255)) break;
+          kept[y * width + x] = 1;
           ++x;
         }
         path.push('M' + from + ' ' + y + 'h' + (x - from) + 'v1h' + (from - x) + 'z');
       }
     }
-    return path.length ? "path('" + path.join('') + "')" : 'none';
+    return { runs: path, kept: kept };
   }
 
   function drawWindow(w) {
@@ -256,7 +322,7 @@
     b.borderWidth = w.borderWidth + 'px';
     b.borderColor = css(w.borderColor);
     b.borderRadius = w.borderShape === 2 ? '50%' : w.borderShape === 4 ? Math.min(w.width, w.height) / 6 + 'px' : '0';
-    if (!old || old.transparencyImage !== w.transparencyImage || String(old.shape) !== String(w.shape) ||
+    if (!old || old.transparencyImage !== w.transparencyImage || old.outline !== w.outline || String(old.shape) !== String(w.shape) ||
         old.width !== w.width || old.height !== w.height)
       applyCut();
     el.back.style.cursor = pointer(w.cursor, false, 'default');
@@ -545,9 +611,11 @@
       window.close();
     },
     music: function (path) {
-      if (page.music) page.music.pause();
+      if (page.music) { page.music.pause(); page.music.remove(); }
       page.music = new Audio(mediaUrl(path));
+      page.music.className = 'qor-music';
       page.music.loop = true;
+      document.body.appendChild(page.music);
       startMusic();
     },
     sound: function (path) {
@@ -652,7 +720,17 @@
   }
   if (menu.preview) paintPreview(menu.preview);
 
-  window.addEventListener('resize', function () { if (page.scene && page.scene.window) layout(); });
+  // A page resized before the visitor moved the window keeps it centred.
+  window.addEventListener('resize', function () {
+    var w = page.scene && page.scene.window;
+    if (!w) return;
+    if (!page.dragged && !w.fullScreen) {
+      w.left = Math.max(0, Math.floor((window.innerWidth - w.width) / 2));
+      w.top = Math.max(0, Math.floor((window.innerHeight - w.height) / 2));
+      send('qor_window_moved', ['number', 'number'], [w.left, w.top]);
+    }
+    layout();
+  });
 
   // The player compiles while the pictures decode: the menu starts once both are ready.
   var started = performance.now();
