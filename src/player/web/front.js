@@ -154,28 +154,17 @@
 
   // ---- the window ---------------------------------------------------------------
 
+  // The window is the page's own, painted as the player first shows it:
+  // its background stays (already decoded), the buttons are the player's.
   function build() {
-    if (el.window) {
-      // The preview's window stays, its background already decoded.
-      el.back.querySelectorAll('.qor-button, .qor-text').forEach(function (n) { n.remove(); });
-      return;
-    }
     el.window = document.getElementById('qor-window');
-    el.window.innerHTML = '';
-    el.cut = document.createElement('div');
-    el.cut.className = 'qor-cut';
-    el.window.appendChild(el.cut);
-    el.back = document.createElement('div');
-    el.back.className = 'qor-back';
-    el.cut.appendChild(el.back);
-    el.backImage = document.createElement('img');
-    el.backImage.className = 'qor-back-image';
-    el.backImage.alt = '';
-    el.backImage.draggable = false;
-    el.back.appendChild(el.backImage);
-    el.border = document.createElement('div');
-    el.border.className = 'qor-border';
-    el.back.appendChild(el.border);
+    el.cut = el.window.querySelector('.qor-cut');
+    el.back = el.window.querySelector('.qor-back');
+    el.backImage = el.window.querySelector('.qor-back-image');
+    el.border = el.window.querySelector('.qor-border');
+    var name = el.backImage.getAttribute('data-name');
+    if (name) el.backImage.setAttribute('data-path', key(FOLDER + name));
+    el.back.querySelectorAll('.qor-button').forEach(function (n) { n.remove(); });
     el.back.addEventListener('mousemove', function (e) {
       if (e.target === el.back || e.target === el.backImage || e.target === el.border) send('qor_background_over', [], []);
     });
@@ -595,7 +584,6 @@
       makeTexts(0);
       setTimer(scene.timer);
       document.body.setAttribute('data-qor', 'shown');
-      firstFrame();
       requestAnimationFrame(function () { window.qorSceneShown = performance.now(); });
     },
     window: drawWindow,
@@ -674,51 +662,6 @@
 
   // ---- start --------------------------------------------------------------------
 
-  // Twips to pixels, halves to even, as the player rounds them.
-  function px(twips) {
-    var v = Math.max(-32767, Math.min(32767, (Number(twips) || 0) / 15));
-    var f = Math.floor(v), d = v - f;
-    return d > 0.5 || (d === 0.5 && f % 2 !== 0) ? f + 1 : f;
-  }
-
-  function firstFrame() {
-    if (!window.qorFirstFrame) requestAnimationFrame(function () { window.qorFirstFrame = performance.now(); });
-  }
-
-  // The window as the player first shows it, painted while the player
-  // compiles and the pictures decode; the player's own scene replaces it.
-  function paintPreview(p) {
-    build();
-    var width = p.fullScreen ? window.innerWidth : Math.max(1, px(p.width));
-    var height = p.fullScreen ? window.innerHeight : Math.max(1, px(p.height));
-    var s = el.window.style;
-    s.width = width + 'px';
-    s.height = height + 'px';
-    s.left = Math.max(0, Math.floor((window.innerWidth - width) / 2)) + 'px';
-    s.top = Math.max(0, Math.floor((window.innerHeight - height) / 2)) + 'px';
-    el.back.style.backgroundColor = css(p.backColor);
-    el.border.style.display = 'none';
-    p.buttons.forEach(function (b) {
-      var url = urlOf(FOLDER + b[2]);
-      if (!page.files[key(FOLDER + b[2])]) return;
-      var node = document.createElement('img');
-      node.className = 'qor-button';
-      node.src = url;
-      node.style.left = px(b[0]) + 'px';
-      node.style.top = px(b[1]) + 'px';
-      el.back.appendChild(node);
-    });
-    // The background comes from its own file, as a plain page would show it;
-    // the player keeps that picture when its scene names the same one.
-    if (!p.image || !page.files[key(FOLDER + p.image)]) return firstFrame();
-    el.backImage.onload = firstFrame;
-    el.backImage.onerror = firstFrame;
-    el.backImage.style.width = '100%';
-    el.backImage.style.height = '100%';
-    el.backImage.src = urlOf(FOLDER + p.image);
-    el.backImage.setAttribute('data-path', key(FOLDER + p.image));
-  }
-  if (menu.preview) paintPreview(menu.preview);
 
   // A page resized before the visitor moved the window keeps it centred.
   window.addEventListener('resize', function () {
@@ -734,8 +677,8 @@
 
   // The player compiles while the pictures decode: the menu starts once both are ready.
   var started = performance.now();
-  // The player's script (a megabyte) loads after this one, so the preview
-  // is on screen while it is read and compiled.
+  // The player's script (a megabyte) loads after this one, so the window
+  // the page painted is on screen while it is read and compiled.
   function loadPlayer() {
     return new Promise(function (done, fail) {
       var script = document.createElement('script');
@@ -746,10 +689,13 @@
     }).then(function () { return QorPlayer({ qorPage: pageSide }); });
   }
 
-  Promise.all([loadPlayer().then(function (m) { window.qorCompiled = performance.now(); return m; }),
-               // The pictures' bytes are decoded once the preview is on screen.
-               new Promise(function (painted) { requestAnimationFrame(function () { setTimeout(painted, 0); }); })
-                 .then(loadImages).then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
+  // The player is read and compiled, and the pictures' bytes decoded, once
+  // the page's window is on screen: neither holds its first frame back.
+  var painted = new Promise(function (done) {
+    (function ask() { if (window.qorFirstFrame) setTimeout(done, 0); else requestAnimationFrame(ask); })();
+  });
+  Promise.all([painted.then(loadPlayer).then(function (m) { window.qorCompiled = performance.now(); return m; }),
+               painted.then(loadImages).then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
     window.qorFrontStart = started;
     var module = ready[0];
     core = module;

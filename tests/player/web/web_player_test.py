@@ -368,20 +368,33 @@ def responsive(driver, what):
 def hostile(driver, program, work):
     """Menus the other players also get: the page says what is wrong where
     something is, and keeps answering."""
-    # Names with accents, blanks and quotes; a missing and an empty picture.
-    odd = make_menu(work, 'odd', texts=0, renamed={
-        'fond.bmp': ('fond d\'été "n°1".bmp', 'copy'), 'b_n.bmp': ('absent.bmp', None),
-        'b_s.bmp': ('vide é.bmp', '')})
-    page = export(program, odd, os.path.join(work, 'out odd'))
-    open_menu(driver, page)
-    left, top = window_origin(driver)[:2]
-    rows = shot(driver)
-    check('accented, quoted background shown', rows[int(top) + 60][int(left) + 150] == background(150, 60),
-          rows[int(top) + 60][int(left) + 150])
-    size = driver.execute_script("var r = document.querySelectorAll('.qor-button')[0].getBoundingClientRect();"
-                                 "return [r.width, r.height];")
-    check('unreadable button is a grey box', size == [75, 25] and
-          rows[int(top) + BUTTON[1] + 5][int(left) + BUTTON[0] + 5] == (212, 208, 200), size)
+    # Names with accents, blanks and quotes; missing and empty pictures: the
+    # picture shows, or its place keeps the window's colour or a grey box
+    # (75 by 25) that can still be clicked.
+    grey, white = (212, 208, 200), (255, 255, 255)
+    odd_name = 'fond d\'été "n°1" & co.bmp'
+    for name, renamed, point, colour, button_size in (
+            ('background named with accents, blanks and quotes', {'fond.bmp': (odd_name, 'copy')},
+             (150, 60), background(150, 60), [40, 20]),
+            ('button picture named so', {'b_n.bmp': ('b « n° 1 » l\'été.bmp', 'copy')},
+             (BUTTON[0] + 5, BUTTON[1] + 5), NORMAL, [40, 20]),
+            ('missing button picture', {'b_n.bmp': ('absent.bmp', None)}, (BUTTON[0] + 5, BUTTON[1] + 5), grey, [75, 25]),
+            ('empty button picture', {'b_n.bmp': ('vide é.bmp', '')}, (BUTTON[0] + 5, BUTTON[1] + 5), grey, [75, 25]),
+            ('empty background', {'fond.bmp': ('vide.bmp', '')}, (150, 60), white, [40, 20])):
+        page = export(program, make_menu(work, name, texts=0, timer_script='', renamed=renamed),
+                      os.path.join(work, 'out ' + name))
+        open_menu(driver, page)
+        left, top = window_origin(driver)[:2]
+        time.sleep(0.2)
+        got = shot(driver)[int(top) + point[1]][int(left) + point[0]]
+        size = driver.execute_script("var r = document.querySelectorAll('.qor-button')[0].getBoundingClientRect();"
+                                     "return [r.width, r.height];")
+        check(name, got == colour and size == button_size, (got, size))
+        click(driver, '.qor-button')
+        text = wait(driver, "var b = document.querySelector('.qor-box-text'); return b && b.textContent",
+                    name + ': its button still answers')
+        check(name + ': its button still answers', text == 'Bonjour le monde', text)
+        answer_box(driver)
 
     # Endless scripts in every event: each is stopped with its message.
     endless = 'Do\nLoop'
