@@ -366,7 +366,7 @@ def hostile(driver, program, work):
     # picture shows, or its place keeps the window's colour or a grey box
     # (75 by 25) that can still be clicked.
     grey, white = (212, 208, 200), (255, 255, 255)
-    odd_name = 'fond d\'été "n°1" & co.bmp'
+    odd_name = 'fond d\'été "n°1" & #2 50%.bmp'
     for name, renamed, point, colour, button_size in (
             ('background named with accents, blanks and quotes', {'fond.bmp': (odd_name, 'copy')},
              (150, 60), background(150, 60), [40, 20]),
@@ -508,8 +508,8 @@ def media(driver, program, work):
     """Music waits for the visitor's first click or key, then plays; a
     "vidéo" button plays in the page what the browser can play and opens the
     rest in a new tab."""
-    for first in ('click', 'key'):
-        page = export(program, make_menu(work, 'music ' + first, timer_script='', music='musique.wav'),
+    for first, music in (('click', 'musique.wav'), ('key', 'musique d\'été "n°2" #3 50%.wav')):
+        page = export(program, make_menu(work, 'music ' + first, timer_script='', music=music),
                       os.path.join(work, 'out music ' + first))
         open_menu(driver, page)
         playing = ("var a = document.querySelector('audio.qor-music');"
