@@ -7,7 +7,7 @@ headless Firefox ESR driven through its own remote protocol (marionette.py).
 
 PROGRAM_FOLDER is the staged program folder (qorc, qorbake, qorplayer, web/);
 the Linux player's screenshot is taken on X display :209 for Chromium, :210
-for Firefox (Xvfb; QOR_WEB_DISPLAY chooses another).
+for Firefox (Xvfb; QOR_WEB_DISPLAY=N takes N and N + 1 instead).
 STATEMENTS_PROGRAM prints every statement of the script assistant.
 A browser that cannot start fails the check, with the reason.
 """
@@ -579,7 +579,8 @@ def cuts(driver, program, work, looks):
 def main():
     program, statements_program = sys.argv[1], sys.argv[2]
     kind = sys.argv[3] if len(sys.argv) > 3 else 'chromium'
-    display = os.environ.get('QOR_WEB_DISPLAY') or {'chromium': ':209', 'firefox': ':210'}[kind]
+    # Each browser's run has its own display, so both can run at once.
+    display = ':%d' % (int(os.environ.get('QOR_WEB_DISPLAY', '209')) + (kind == 'firefox'))
     work = tempfile.mkdtemp(prefix='qor-web-')
     driver = None
     try:
