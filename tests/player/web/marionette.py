@@ -26,11 +26,10 @@ def free_port():
 
 
 class Firefox:
-    def __init__(self, process, sock, profile):
-        self.process, self.sock, self.profile = process, sock, profile
+    def __init__(self, process, sock):
+        self.process, self.sock = process, sock
         self.buffer = b''
         self.next_id = 0
-        self.script_timeout = 30
 
     @classmethod
     def start(cls, profile, width=640, height=480):
@@ -71,8 +70,9 @@ class Firefox:
             with open(os.path.join(profile, 'firefox.log')) as f:
                 tail = f.read()[-800:]
             raise BrowserError('Firefox did not open its remote port %d (exit %s): %s' % (port, process.poll(), tail))
-        sock.settimeout(None)
-        browser = cls(process, sock, profile)
+        # A browser that stops answering fails the check rather than hang it.
+        sock.settimeout(120)
+        browser = cls(process, sock)
         hello = browser._receive()
         if not isinstance(hello, dict) or hello.get('marionetteProtocol', 0) < 3:
             browser.quit()
