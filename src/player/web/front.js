@@ -456,12 +456,23 @@
     var video = document.createElement('video');
     video.className = 'qor-video';
     video.controls = true;
-    video.autoplay = true;
     video.src = mediaUrl(path);
+    // Started now, while the visitor's click counts: a browser lets a film
+    // with sound start by itself only then.
+    var p = video.play();
+    if (p && p.catch) p.catch(function () {});
     var close = document.createElement('button');
     close.textContent = 'Fermer';
     close.onclick = function () { video.pause(); shade.remove(); };
     video.onended = close.onclick;
+    // A file of a kind the browser plays whose content it cannot (another
+    // codec inside, a damaged file) opens in a new tab instead, as a kind it
+    // does not know would; the visitor's click still counts for the tab.
+    video.onerror = function () {
+      if (!video.error || video.error.code !== video.error.MEDIA_ERR_SRC_NOT_SUPPORTED) return;
+      close.onclick();
+      openInTab(urlOf(path));
+    };
     shade.appendChild(video);
     shade.appendChild(close);
     document.body.appendChild(shade);

@@ -12,6 +12,7 @@ STATEMENTS_PROGRAM prints every statement of the script assistant.
 A browser that cannot start fails the check, with the reason.
 """
 import base64
+import math
 import os
 import shutil
 import struct
@@ -50,11 +51,62 @@ def bmp(path, width, height, pixel):
 
 def wav(path, seconds=3):
     """A quiet 8 kHz tone, long enough to be caught playing."""
-    import math
     samples = bytes(128 + int(20 * math.sin(2 * math.pi * 440 * n / 8000)) for n in range(8000 * seconds))
     with open(path, 'wb') as f:
         f.write(b'RIFF' + struct.pack('<I', 36 + len(samples)) + b'WAVEfmt ' +
                 struct.pack('<IHHIIHH', 16, 1, 1, 8000, 8000, 1, 8) + b'data' + struct.pack('<I', len(samples)) + samples)
+
+
+def mp4(path, seconds=2, rate=8000, block=4096):
+    """A sound-only MP4 film (FLAC stored verbatim, 16 bits): a file both
+    browsers play in a <video>, made without any encoder at hand."""
+    def crc(data, poly, bits):
+        top, mask, c = 1 << (bits - 1), (1 << bits) - 1, 0
+        for byte in data:
+            c ^= byte << (bits - 8)
+            for _ in range(8):
+                c = ((c << 1) ^ poly if c & top else c << 1) & mask
+        return c
+
+    def box(kind, *parts):
+        body = b''.join(parts)
+        return struct.pack('>I', 8 + len(body)) + kind + body
+
+    def full(kind, flags, *parts):
+        return box(kind, struct.pack('>I', flags), *parts)
+
+    frames = rate * seconds // block
+    total = frames * block
+    samples = []
+    for n in range(frames):
+        head = bytes((0xff, 0xf8, 0xc4, 0x08, n))
+        head += bytes((crc(head, 0x07, 8), 0x02))
+        body = head + b''.join(struct.pack('>h', int(3000 * math.sin(2 * math.pi * 440 * (n * block + k) / rate)))
+                               for k in range(block))
+        samples.append(body + crc(body, 0x8005, 16).to_bytes(2, 'big'))
+    info = struct.pack('>HHxxxxxx', block, block) + ((rate << 44) | (15 << 36) | total).to_bytes(8, 'big') + bytes(16)
+    matrix = struct.pack('>9I', 0x10000, 0, 0, 0, 0x10000, 0, 0, 0, 0x40000000)
+    entry = box(b'fLaC', bytes(6), struct.pack('>HQHHHHI', 1, 0, 1, 16, 0, 0, rate << 16),
+                full(b'dfLa', 0, b'\x80\x00\x00\x22' + info))
+
+    def moov(offset):
+        stbl = box(b'stbl', full(b'stsd', 0, struct.pack('>I', 1), entry),
+                   full(b'stts', 0, struct.pack('>III', 1, frames, block)),
+                   full(b'stsc', 0, struct.pack('>IIII', 1, 1, frames, 1)),
+                   full(b'stsz', 0, struct.pack('>II', 0, frames), b''.join(struct.pack('>I', len(s)) for s in samples)),
+                   full(b'stco', 0, struct.pack('>II', 1, offset)))
+        minf = box(b'minf', full(b'smhd', 0, bytes(4)), box(b'dinf', full(b'dref', 0, struct.pack('>I', 1), full(b'url ', 1))), stbl)
+        mdia = box(b'mdia', full(b'mdhd', 0, struct.pack('>IIIIHH', 0, 0, rate, total, 0x55c4, 0)),
+                   full(b'hdlr', 0, struct.pack('>I4s12x', 0, b'soun'), b'\0'), minf)
+        trak = box(b'trak', full(b'tkhd', 3, struct.pack('>IIIII8xhhhH', 0, 0, 1, 0, total, 0, 0, 0x100, 0), matrix,
+                                 struct.pack('>II', 0, 0)), mdia)
+        return box(b'moov', full(b'mvhd', 0, struct.pack('>IIIIIH10x', 0, 0, rate, total, 0x10000, 0x100), matrix,
+                                 bytes(24), struct.pack('>I', 2)), trak)
+
+    ftyp = box(b'ftyp', b'isom', struct.pack('>I', 512), b'isomiso2mp41')
+    head = ftyp + moov(0)
+    with open(path, 'wb') as f:
+        f.write(ftyp + moov(len(head) + 8) + box(b'mdat', *samples))
 
 
 def background(x, y):
@@ -424,7 +476,6 @@ def hostile(driver, program, work):
     check('cut data: an error box', title == 'Erreur !', title)
 
     # 10 000 text boxes and a 100 000-point outline.
-    import math
     outline = [(int(WIDTH / 2 + WIDTH / 2 * math.cos(k * 2 * math.pi / 100000)),
                 int(HEIGHT / 2 + HEIGHT / 2 * math.sin(k * 2 * math.pi / 100000))) for k in range(100000)]
     big = make_menu(work, 'big', texts=10000, shape=outline)
@@ -526,21 +577,30 @@ def media(driver, program, work):
         wait(driver, "var a = document.querySelector('audio.qor-music'); return !a.paused && a.currentTime > 0",
              'music after the first %s' % first)
 
-    for film, where in (('film.webm', 'page'), ('film.avi', 'tab')):
+    # A film the browser plays, one of a kind it plays but damaged, one of a
+    # kind it does not know.
+    for film, where in (('film.mp4', 'page'), ('film.webm', 'tab'), ('film.avi', 'tab')):
         out = os.path.join(work, 'out ' + film)
         page = export(program, make_menu(work, film, kind='vidéo', click=film, timer_script=''), out)
-        with open(os.path.join(out, film), 'wb') as f:
-            f.write(b'\0' * 64)
+        if film == 'film.mp4':
+            mp4(os.path.join(out, film))
+        else:
+            with open(os.path.join(out, film), 'wb') as f:
+                f.write(b'\0' * 64)
         open_menu(driver, page)
-        # What the page asks the browser to open in a tab: a file it cannot
-        # show, the browser may download rather than keep a tab open.
-        driver.execute_script("window.tabs = []; var open = window.open;"
-                              "window.open = function (u) { window.tabs.push(u); return open.apply(window, arguments); };")
+        # What the page asks the browser to open in a tab (kept from opening,
+        # so the menu's own tab stays in front), and what starts playing in
+        # the page (headless Firefox has no sound card: its film stops at
+        # once, after it started).
+        driver.execute_script("window.tabs = []; window.open = function (u) { window.tabs.push(u); return null; };"
+                              "window.played = []; document.addEventListener('playing', function (e) {"
+                              " window.played.push(e.target.className + ' ' + e.target.src); }, true);")
         click(driver, '.qor-button', 0)
         if where == 'page':
-            src = wait(driver, "var v = document.querySelector('video.qor-video'); return v && v.src", film + ' in the page')
-            check('%s plays in the page' % film, bool(src) and src.endswith('/' + film) and
-                  driver.execute_script('return window.tabs') == [], src)
+            played = wait(driver, "return window.played.length && window.played", film + ' plays in the page')
+            check('%s plays in the page' % film, bool(played) and len(played) == 1 and
+                  played[0].startswith('qor-video ') and played[0].endswith('/' + film) and
+                  driver.execute_script('return window.tabs') == [], played)
         else:
             tabs = wait(driver, "return window.tabs.length && window.tabs", film + ' in a new tab')
             check('%s opens in a new tab' % film, tabs == [film] and
