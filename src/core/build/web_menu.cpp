@@ -133,16 +133,17 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     request.subMenu = false;
     const CompilePlan plan = compilePlan(project, request, programFolder);
     std::vector<std::pair<std::string, std::string>> embedded;
-    std::set<std::string> seen;
+    std::set<std::string> copied;
     for (const CompileAction& a : plan.actions) {
         if (a.kind != CompileAction::Kind::Copy || a.source.starts_with(programFolder))
             continue;
         const std::string name = fileNameOf(a.target);
-        if (!seen.insert(lowerAscii(name)).second)
+        if (copied.count(lowerAscii(name)))
             continue;
         Result<std::string> bytes = files.readFile(a.source);
         if (!bytes)
             continue;
+        copied.insert(lowerAscii(name));
         if (Status s = files.writeFile(folder + name, *bytes); !s)
             return s;
         if (embeddedInWebMenu(name))
@@ -171,7 +172,7 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     // The background is fetched while the scripts load, as a page showing
     // only that picture would.
     std::string preload;
-    if (!project.backgroundImage.empty() && seen.count(lowerAscii(fileNameOf(project.backgroundImage))))
+    if (!project.backgroundImage.empty() && copied.count(lowerAscii(fileNameOf(project.backgroundImage))))
         preload = "<link rel=\"preload\" as=\"image\" href=\"" + std::string(kWebFolderName) + "/" +
                   urlPath(fileNameOf(project.backgroundImage)) + "\">";
     std::string text = std::move(*page);
@@ -179,7 +180,7 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     // menu's data and the player are read.
     for (const auto& [marker, value] : {std::pair<std::string, std::string>{"@FOLDER@", kWebFolderName},
                                         {"@PRELOAD@", preload},
-                                        {"@PREVIEW@", previewScript(project, seen)}})
+                                        {"@PREVIEW@", previewScript(project, copied)}})
         for (std::size_t at = text.find(marker); at != std::string::npos; at = text.find(marker, at + value.size()))
             text.replace(at, marker.size(), value);
     return files.writeFile(pageFolder + kWebPageName, text);
