@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """The browser player's targets, in headless Chromium beside their yardsticks.
 
-    web_bench.py BUILD_FOLDER [size] [frame] [loops]     (all three without a word)
+    web_bench.py BUILD_FOLDER [size] [frame] [firefox] [loops]     (all four without a word)
 
 - first frame: a 99-button, 50-text menu exported by qorc html and opened
   from its folder, against a page showing the same background picture alone;
-  both in the same browser, side by side, best of eleven each.
+  both in the same browser, side by side, best of eleven each; "firefox"
+  measures the same in headless Firefox ESR.
 - loops: the engine's benchmark loops (bench/script_loops.h) in the browser,
   built like the player, against the native build of the same loops.
 - size: the player script, whole and gzip-compressed, beside compil.exe.
@@ -33,7 +34,7 @@ def first_frame(driver, url, flag):
 
 def main():
     build = os.path.abspath(sys.argv[1])
-    wanted = set(sys.argv[2:]) or {'size', 'frame', 'loops'}
+    wanted = set(sys.argv[2:]) or {'size', 'frame', 'firefox', 'loops'}
     program = os.path.join(build, 'program')
     work = tempfile.mkdtemp(prefix='qor-web-bench-')
     driver = None
@@ -46,7 +47,13 @@ def main():
                 len(raw), len(gzip.compress(raw, 9)), os.path.getsize(os.path.join(program, 'web', 'front.js')), compil))
         driver = menus.start_browser('chromium', os.path.join(work, 'profile'))
         if 'frame' in wanted:
-            frame(driver, program, work)
+            frame(driver, program, os.path.join(work, 'chromium'), 'Chromium')
+        if 'firefox' in wanted:
+            firefox = menus.start_browser('firefox', os.path.join(work, 'firefox profile'))
+            try:
+                frame(firefox, program, os.path.join(work, 'firefox'), 'Firefox ESR')
+            finally:
+                firefox.quit()
         if 'loops' in wanted:
             loops(driver, build, work)
     finally:
@@ -56,7 +63,8 @@ def main():
     return 1 if menus.FAILURES else 0
 
 
-def frame(driver, program, work):
+def frame(driver, program, work, browser):
+    os.makedirs(work)
     project = menus.make_menu(work, 'big', texts=50, extra_buttons=97)
     page = menus.export(program, project, os.path.join(work, 'out'))
     alone = os.path.join(work, 'out', 'alone.htm')
@@ -77,9 +85,9 @@ def frame(driver, program, work):
         alone_ms.append(a)
         pairs.append(m / a)
     pairs.sort()
-    print('first frame (best of %d): menu %.1f ms, background alone %.1f ms, ratio %.2f; ratio of the pairs: '
+    print('first frame in %s (best of %d): menu %.1f ms, background alone %.1f ms, ratio %.2f; ratio of the pairs: '
           "median %.2f, worst %.2f; the player's whole scene %.1f ms" % (
-              RUNS, min(menu_ms), min(alone_ms), min(menu_ms) / min(alone_ms), pairs[len(pairs) // 2], pairs[-1],
+              browser, RUNS, min(menu_ms), min(alone_ms), min(menu_ms) / min(alone_ms), pairs[len(pairs) // 2], pairs[-1],
               min(scene_ms)))
 
 
