@@ -688,8 +688,8 @@
 
   // The player compiles while the pictures decode: the menu starts once both are ready.
   var started = performance.now();
-  // The player's script (a megabyte) loads after this one, so the window
-  // the page painted is on screen while it is read and compiled.
+  // The player's script (a megabyte) loads after this one, so the preview
+  // is on screen while it is read and compiled.
   function loadPlayer() {
     return new Promise(function (done, fail) {
       var script = document.createElement('script');
