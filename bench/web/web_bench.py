@@ -75,6 +75,10 @@ def frame(driver, program, work, browser):
     # Side by side: one of each in turn, so a busy moment of the machine
     # slows both; the best of each, and the ratios of the pairs to show how
     # steady it is.
+    # One pair first, not counted: a browser just started reads and
+    # compiles everything for the first time.
+    first_frame(driver, 'file://' + page, 'qorSceneShown')
+    first_frame(driver, 'file://' + alone, 'shownAt')
     menu_ms, alone_ms, scene_ms, pairs = [], [], [], []
     for _ in range(RUNS):
         m = first_frame(driver, 'file://' + page, 'qorFirstFrame')
