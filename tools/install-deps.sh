@@ -15,8 +15,8 @@ packages=(
   xorriso
   g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
   xvfb xauth xdotool x11-utils openbox imagemagick
-  # the web player: built with emscripten, checked in headless Chromium
-  emscripten chromium chromium-driver python3-selenium
+  # the web player: built with emscripten, checked in headless Chromium and Firefox
+  emscripten chromium chromium-driver python3-selenium firefox-esr
   # wine only loads these X libraries when present; without them its windows
   # lose their cursors, transparency and screen geometry.
   libxrender1 libxcursor1 libxrandr2 libxi6 libxcomposite1 libxinerama1 libxfixes3

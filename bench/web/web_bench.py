@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """The browser player's targets, in headless Chromium beside their yardsticks.
 
-    web_bench.py BUILD_FOLDER [size] [frame] [loops]     (all three without a word)
+    web_bench.py BUILD_FOLDER [size] [frame] [firefox] [loops]     (all four without a word)
 
 - first frame: a 99-button, 50-text menu exported by qorc html and opened
   from its folder, against a page showing the same background picture alone;
-  both in the same browser, side by side, best of five each.
+  both in the same browser, side by side, best of eleven each; "firefox"
+  measures the same in headless Firefox ESR.
 - loops: the engine's benchmark loops (bench/script_loops.h) in the browser,
   built like the player, against the native build of the same loops.
 - size: the player script, whole and gzip-compressed, beside compil.exe.
@@ -22,6 +23,9 @@ sys.path.insert(0, os.path.join(here, '..', '..', 'tests', 'player', 'web'))
 import web_player_test as menus  # noqa: E402  (the test's menu writer and browser start)
 
 
+RUNS = 11
+
+
 def first_frame(driver, url, flag):
     driver.get('about:blank')
     driver.get(url)
@@ -30,7 +34,7 @@ def first_frame(driver, url, flag):
 
 def main():
     build = os.path.abspath(sys.argv[1])
-    wanted = set(sys.argv[2:]) or {'size', 'frame', 'loops'}
+    wanted = set(sys.argv[2:]) or {'size', 'frame', 'firefox', 'loops'}
     program = os.path.join(build, 'program')
     work = tempfile.mkdtemp(prefix='qor-web-bench-')
     driver = None
@@ -41,9 +45,15 @@ def main():
             compil = os.path.getsize(os.path.join(program, 'compil.exe'))
             print('size: qor_player.js %d bytes, gzip -9 %d bytes; front.js %d bytes; compil.exe %d bytes' % (
                 len(raw), len(gzip.compress(raw, 9)), os.path.getsize(os.path.join(program, 'web', 'front.js')), compil))
-        driver = menus.start_browser(os.path.join(work, 'profile'))
+        driver = menus.start_browser('chromium', os.path.join(work, 'profile'))
         if 'frame' in wanted:
-            frame(driver, program, work)
+            frame(driver, program, os.path.join(work, 'chromium'), 'Chromium')
+        if 'firefox' in wanted:
+            firefox = menus.start_browser('firefox', os.path.join(work, 'firefox profile'))
+            try:
+                frame(firefox, program, os.path.join(work, 'firefox'), 'Firefox ESR')
+            finally:
+                firefox.quit()
         if 'loops' in wanted:
             loops(driver, build, work)
     finally:
@@ -53,7 +63,8 @@ def main():
     return 1 if menus.FAILURES else 0
 
 
-def frame(driver, program, work):
+def frame(driver, program, work, browser):
+    os.makedirs(work)
     project = menus.make_menu(work, 'big', texts=50, extra_buttons=97)
     page = menus.export(program, project, os.path.join(work, 'out'))
     alone = os.path.join(work, 'out', 'alone.htm')
@@ -61,18 +72,27 @@ def frame(driver, program, work):
         f.write('<!DOCTYPE html><html><body style="margin:0">'
                 '<img src="qor_menu2/fond.bmp" onload="requestAnimationFrame(function () {'
                 ' window.shownAt = performance.now(); })"></body></html>')
-    # Side by side: one of each in turn, the best of five each.
-    menu_ms = alone_ms = scene_ms = None
-    for _ in range(5):
+    # Side by side: one of each in turn, so a busy moment of the machine
+    # slows both; the best of each, and the ratios of the pairs to show how
+    # steady it is.
+    # One pair first, not counted: a browser just started reads and
+    # compiles everything for the first time.
+    first_frame(driver, 'file://' + page, 'qorSceneShown')
+    first_frame(driver, 'file://' + alone, 'shownAt')
+    menu_ms, alone_ms, scene_ms, pairs = [], [], [], []
+    for _ in range(RUNS):
         m = first_frame(driver, 'file://' + page, 'qorFirstFrame')
-        # The preview comes first; the player's own scene (text boxes too) follows.
-        scene = menus.wait(driver, 'return window.qorSceneShown', 'scene shown', 60)
-        scene_ms = scene if scene_ms is None else min(scene_ms, scene)
+        # The page's window comes first; the player's own scene (text boxes too) follows.
+        scene_ms.append(menus.wait(driver, 'return window.qorSceneShown', 'scene shown', 60))
         a = first_frame(driver, 'file://' + alone, 'shownAt')
-        menu_ms = m if menu_ms is None else min(menu_ms, m)
-        alone_ms = a if alone_ms is None else min(alone_ms, a)
-    print('first frame: menu %.1f ms, background alone %.1f ms, ratio %.2f; the player\'s whole scene %.1f ms' % (
-        menu_ms, alone_ms, menu_ms / alone_ms, scene_ms))
+        menu_ms.append(m)
+        alone_ms.append(a)
+        pairs.append(m / a)
+    pairs.sort()
+    print('first frame in %s (best of %d): menu %.1f ms, background alone %.1f ms, ratio %.2f; ratio of the pairs: '
+          "median %.2f, worst %.2f; the player's whole scene %.1f ms" % (
+              browser, RUNS, min(menu_ms), min(alone_ms), min(menu_ms) / min(alone_ms), pairs[len(pairs) // 2], pairs[-1],
+              min(scene_ms)))
 
 
 def loops(driver, build, work, rounds=3):

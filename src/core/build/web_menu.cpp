@@ -58,18 +58,20 @@ std::string number(double v)
 }
 
 // Positions in twips, as the data holds them: the page rounds them as the
-// player does.
-std::string previewScript(const MenuProject& project)
+// player does. Only pictures the export copied are named (lower-case names
+// in `present`): a missing one waits for the player's grey box.
+std::string previewScript(const MenuProject& project, const std::set<std::string>& present)
 {
+    const auto copied = [&](const std::string& path) { return present.count(lowerAscii(fileNameOf(path))) != 0; };
     std::string out = "{width:" + number(project.width) + ",height:" + number(project.height) +
                       ",fullScreen:" + (project.fullScreen ? "true" : "false") +
                       ",backColor:" + std::to_string(std::uint32_t(project.backgroundColor)) +
-                      ",image:" + jsString(project.backgroundImage.empty() ? "" : fileNameOf(project.backgroundImage)) +
+                      ",image:" + jsString(copied(project.backgroundImage) ? fileNameOf(project.backgroundImage) : "") +
                       ",buttons:[";
     bool first = true;
     for (int n = 1; n <= MenuProject::kLastButtonSlot; ++n) {
         const MenuButton& b = project.button(n);
-        if (b.kind == button_kind::deleted || b.normalImage.empty())
+        if (b.kind == button_kind::deleted || b.normalImage.empty() || !copied(b.normalImage))
             continue;
         const std::string suffix(b.transparent ? menu_data_layout::kTransparentSuffix : std::string_view());
         out += first ? "" : ",";
@@ -104,11 +106,11 @@ bool embeddedInWebMenu(const std::string& name)
     return false;
 }
 
-std::string webMenuScript(const MenuProject& project, const std::string& dataName,
+std::string webMenuScript(const std::string& dataName,
                           const std::vector<std::pair<std::string, std::string>>& files)
 {
     std::string out = "window.QOR_MENU={folder:" + jsString(kWebFolderName) + ",data:" + jsString(dataName) +
-                      ",\npreview:" + previewScript(project) + ",\nfiles:{";
+                      ",\nfiles:{";
     bool first = true;
     for (const auto& [name, bytes] : files) {
         out += first ? "\n" : ",\n";
@@ -131,16 +133,17 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     request.subMenu = false;
     const CompilePlan plan = compilePlan(project, request, programFolder);
     std::vector<std::pair<std::string, std::string>> embedded;
-    std::set<std::string> seen;
+    std::set<std::string> copied;
     for (const CompileAction& a : plan.actions) {
         if (a.kind != CompileAction::Kind::Copy || a.source.starts_with(programFolder))
             continue;
         const std::string name = fileNameOf(a.target);
-        if (!seen.insert(lowerAscii(name)).second)
+        if (copied.count(lowerAscii(name)))
             continue;
         Result<std::string> bytes = files.readFile(a.source);
         if (!bytes)
             continue;
+        copied.insert(lowerAscii(name));
         if (Status s = files.writeFile(folder + name, *bytes); !s)
             return s;
         if (embeddedInWebMenu(name))
@@ -156,7 +159,7 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     if (!dataBytes)
         return Status(dataBytes.error());
     embedded.emplace_back(kDataName, std::move(*dataBytes));
-    if (Status s = files.writeFile(folder + "menu.js", webMenuScript(project, kDataName, embedded)); !s)
+    if (Status s = files.writeFile(folder + "menu.js", webMenuScript(kDataName, embedded)); !s)
         return s;
 
     const std::string player = programFolder + "web/";
@@ -169,12 +172,15 @@ Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDat
     // The background is fetched while the scripts load, as a page showing
     // only that picture would.
     std::string preload;
-    if (!project.backgroundImage.empty() && seen.count(lowerAscii(fileNameOf(project.backgroundImage))))
+    if (!project.backgroundImage.empty() && copied.count(lowerAscii(fileNameOf(project.backgroundImage))))
         preload = "<link rel=\"preload\" as=\"image\" href=\"" + std::string(kWebFolderName) + "/" +
                   urlPath(fileNameOf(project.backgroundImage)) + "\">";
     std::string text = std::move(*page);
+    // The window as first shown is painted by the page itself, before the
+    // menu's data and the player are read.
     for (const auto& [marker, value] : {std::pair<std::string, std::string>{"@FOLDER@", kWebFolderName},
-                                        {"@PRELOAD@", preload}})
+                                        {"@PRELOAD@", preload},
+                                        {"@PREVIEW@", previewScript(project, copied)}})
         for (std::size_t at = text.find(marker); at != std::string::npos; at = text.find(marker, at + value.size()))
             text.replace(at, marker.size(), value);
     return files.writeFile(pageFolder + kWebPageName, text);

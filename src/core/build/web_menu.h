@@ -17,11 +17,9 @@ inline constexpr const char* kWebFolderName = "qor_menu2";
 inline constexpr const char* kWebPlayerFiles[] = {"qor_player.js", "front.js"};
 inline constexpr const char* kWebPageTemplate = "page.htm";
 
-// menu.js: the data file's name, the bytes of every file the player reads,
-// base64-coded, so the page needs no fetch of a local file, and the window
-// as the player first shows it (size, background, buttons), which the page
-// paints while the player starts.
-std::string webMenuScript(const MenuProject& project, const std::string& dataName,
+// menu.js: the data file's name and the bytes of every file the player
+// reads, base64-coded, so the page needs no fetch of a local file.
+std::string webMenuScript(const std::string& dataName,
                           const std::vector<std::pair<std::string, std::string>>& files);
 
 // Whether the browser player reads a file's bytes (the data, pictures) or
@@ -29,6 +27,8 @@ std::string webMenuScript(const MenuProject& project, const std::string& dataNam
 bool embeddedInWebMenu(const std::string& name);
 
 // Writes the page and its folder into pageFolder (ending with a separator),
+// the page holding the window as the player first shows it (size,
+// background, buttons) so it paints before any script is read,
 // from the project's files (transparent buttons already baked) and the
 // player staged under programFolder + "web/".
 Status writeWebMenu(FileSystem& files, const MenuProject& project, const MenuDataInfo& info,

@@ -153,60 +153,113 @@
 
   // ---- the window ---------------------------------------------------------------
 
+  // The window is the page's own, painted as the player first shows it:
+  // its background stays (already decoded), the buttons are the player's.
   function build() {
-    if (el.window) {
-      // The preview's window stays, its background already decoded.
-      el.back.querySelectorAll('.qor-button, .qor-text').forEach(function (n) { n.remove(); });
-      return;
-    }
     el.window = document.getElementById('qor-window');
-    el.window.innerHTML = '';
-    el.cut = document.createElement('div');
-    el.cut.className = 'qor-cut';
-    el.window.appendChild(el.cut);
-    el.back = document.createElement('div');
-    el.back.className = 'qor-back';
-    el.cut.appendChild(el.back);
-    el.backImage = document.createElement('img');
-    el.backImage.className = 'qor-back-image';
-    el.backImage.alt = '';
-    el.backImage.draggable = false;
-    el.back.appendChild(el.backImage);
-    el.border = document.createElement('div');
-    el.border.className = 'qor-border';
-    el.back.appendChild(el.border);
+    el.cut = el.window.querySelector('.qor-cut');
+    el.back = el.window.querySelector('.qor-back');
+    el.backImage = el.window.querySelector('.qor-back-image');
+    el.border = el.window.querySelector('.qor-border');
+    var name = el.backImage.getAttribute('data-name');
+    if (name) el.backImage.setAttribute('data-path', key(FOLDER + name));
+    el.back.querySelectorAll('.qor-button').forEach(function (n) { n.remove(); });
     el.back.addEventListener('mousemove', function (e) {
       if (e.target === el.back || e.target === el.backImage || e.target === el.border) send('qor_background_over', [], []);
     });
     el.back.addEventListener('mouseleave', function () { send('qor_background_leave', [], []); });
     el.window.addEventListener('contextmenu', contextMenu);
+    el.back.addEventListener('mousedown', startDrag);
   }
 
+  // The window stands where the core puts it (centred on the page at the
+  // start, then where the visitor drags it or a script moves it); maximised
+  // it fills the page; minimised it leaves a bar at the bottom of the page,
+  // as a task bar would, that brings it back.
   function layout() {
     var w = page.scene.window;
-    var width = w.fullScreen ? window.innerWidth : w.width;
-    var height = w.fullScreen ? window.innerHeight : w.height;
+    var full = w.fullScreen || w.windowState === 2;
+    var width = full ? window.innerWidth : w.width;
+    var height = full ? window.innerHeight : w.height;
     var s = el.window.style;
     s.width = width + 'px';
     s.height = height + 'px';
-    s.left = Math.max(0, Math.floor((window.innerWidth - width) / 2)) + 'px';
-    s.top = Math.max(0, Math.floor((window.innerHeight - height) / 2)) + 'px';
+    s.left = (full ? 0 : w.left) + 'px';
+    s.top = (full ? 0 : w.top) + 'px';
     s.display = w.visible && w.windowState !== 1 ? 'block' : 'none';
+    var minimised = w.visible && w.windowState === 1 && !page.closed;
+    if (minimised && !el.restore) {
+      el.restore = document.createElement('button');
+      el.restore.className = 'qor-restore';
+      el.restore.onclick = function () {
+        page.scene.window.windowState = 0;
+        layout();
+        send('qor_window_state', ['number'], [0]);
+      };
+      document.body.appendChild(el.restore);
+    }
+    if (el.restore) {
+      el.restore.style.display = minimised ? 'block' : 'none';
+      el.restore.textContent = w.caption || ' ';
+    }
+  }
+
+  // A window without title bar moves when its background is dragged; the
+  // core learns where it was dropped, so scripts read Left and Top.
+  function startDrag(e) {
+    var w = page.scene && page.scene.window;
+    if (e.button !== 0 || !w || w.fullScreen || w.windowState === 2) return;
+    if (e.target !== el.back && e.target !== el.backImage && e.target !== el.border) return;
+    e.preventDefault();
+    var from = { x: e.clientX - w.left, y: e.clientY - w.top, left: w.left, top: w.top };
+    var move = function (m) {
+      w = page.scene.window;
+      w.left = m.clientX - from.x;
+      w.top = m.clientY - from.y;
+      el.window.style.left = w.left + 'px';
+      el.window.style.top = w.top + 'px';
+    };
+    var drop = function (u) {
+      if (u.button !== 0) return;
+      document.removeEventListener('mousemove', move, true);
+      document.removeEventListener('mouseup', drop, true);
+      w = page.scene.window;
+      if (w.left === from.left && w.top === from.top) return;
+      page.dragged = true;
+      send('qor_window_moved', ['number', 'number'], [w.left, w.top]);
+    };
+    document.addEventListener('mousemove', move, true);
+    document.addEventListener('mouseup', drop, true);
   }
 
   // The polygon and the transparency picture's white (or see-through)
-  // pixels are cut out; a window cut away entirely keeps its rectangle so
-  // it can still be seen and closed.
+  // pixels are cut out, what is left is what both keep; a window cut away
+  // entirely keeps its rectangle so it can still be seen and closed.
   function applyCut() {
     var w = page.scene.window;
     var runs = [];
     for (var i = 0; i + 2 < w.shape.length; i += 3)
       runs.push('M' + w.shape[i] + ' ' + w.shape[i + 1] + 'h' + w.shape[i + 2] + 'v1h' + -w.shape[i + 2] + 'z');
-    el.window.style.clipPath = runs.length ? "path('" + runs.join('') + "')" : 'none';
     var image = imageOf(w.transparencyImage);
-    el.cut.style.clipPath = image ? imageCut(image, w.width, w.height) : 'none';
+    var mask = image ? imageCut(image, w.width, w.height) : null;
+    var nothingLeft = (w.outline && !runs.length) || (mask && !mask.runs.length) ||
+                      (runs.length && mask && !overlaps(w.shape, mask.kept, w.width));
+    el.window.style.clipPath = runs.length && !nothingLeft ? "path('" + runs.join('') + "')" : 'none';
+    el.cut.style.clipPath = mask && !nothingLeft ? "path('" + mask.runs.join('') + "')" : 'none';
   }
 
+  // Whether a run of the outline meets a pixel the picture keeps.
+  function overlaps(shape, kept, width) {
+    for (var i = 0; i + 2 < shape.length; i += 3) {
+      var row = shape[i + 1] * width;
+      for (var x = Math.max(0, shape[i]), end = Math.min(width, shape[i] + shape[i + 2]); x < end; ++x)
+        if (kept[row + x]) return true;
+    }
+    return false;
+  }
+
+  // The rows of pixels the picture keeps, as path runs, and a map of them;
+  // null when its pixels cannot be read (no cut then).
   function imageCut(image, width, height) {
     var canvas = document.createElement('canvas');
     canvas.width = width;
@@ -215,8 +268,9 @@
     g.imageSmoothingEnabled = false;
     g.drawImage(image.img, 0, 0, width, height);
     var data;
-    try { data = g.getImageData(0, 0, width, height).data; } catch (e) { return 'none'; }
+    try { data = g.getImageData(0, 0, width, height).data; } catch (e) { return null; }
     var path = [];
+    var kept = new Uint8Array(width * height);
     for (var y = 0; y < height; ++y) {
       for (var x = 0; x < width;) {
         var o = (y * width + x) * 4;
@@ -226,12 +280,13 @@
         while (x < width) {
           o = (y * width + x) * 4;
           if (data[o + 3] < 128 || (data[o] === 255 && data[o + 1] === 255 && data[o + 2] === 255)) break;
+          kept[y * width + x] = 1;
           ++x;
         }
         path.push('M' + from + ' ' + y + 'h' + (x - from) + 'v1h' + (from - x) + 'z');
       }
     }
-    return path.length ? "path('" + path.join('') + "')" : 'none';
+    return { runs: path, kept: kept };
   }
 
   function drawWindow(w) {
@@ -255,7 +310,7 @@
     b.borderWidth = w.borderWidth + 'px';
     b.borderColor = css(w.borderColor);
     b.borderRadius = w.borderShape === 2 ? '50%' : w.borderShape === 4 ? Math.min(w.width, w.height) / 6 + 'px' : '0';
-    if (!old || old.transparencyImage !== w.transparencyImage || String(old.shape) !== String(w.shape) ||
+    if (!old || old.transparencyImage !== w.transparencyImage || old.outline !== w.outline || String(old.shape) !== String(w.shape) ||
         old.width !== w.width || old.height !== w.height)
       applyCut();
     el.back.style.cursor = pointer(w.cursor, false, 'default');
@@ -400,12 +455,23 @@
     var video = document.createElement('video');
     video.className = 'qor-video';
     video.controls = true;
-    video.autoplay = true;
     video.src = mediaUrl(path);
+    // Started now, while the visitor's click counts: a browser lets a film
+    // with sound start by itself only then.
+    var p = video.play();
+    if (p && p.catch) p.catch(function () {});
     var close = document.createElement('button');
     close.textContent = 'Fermer';
     close.onclick = function () { video.pause(); shade.remove(); };
     video.onended = close.onclick;
+    // A file of a kind the browser plays whose content it cannot (another
+    // codec inside, a damaged file) opens in a new tab instead, as a kind it
+    // does not know would; the visitor's click still counts for the tab.
+    video.onerror = function () {
+      if (!video.error || video.error.code !== video.error.MEDIA_ERR_SRC_NOT_SUPPORTED) return;
+      close.onclick();
+      openInTab(urlOf(path));
+    };
     shade.appendChild(video);
     shade.appendChild(close);
     document.body.appendChild(shade);
@@ -546,7 +612,6 @@
       makeTexts(0);
       setTimer(scene.timer);
       document.body.setAttribute('data-qor', 'shown');
-      firstFrame();
       requestAnimationFrame(function () { window.qorSceneShown = performance.now(); });
     },
     window: drawWindow,
@@ -562,9 +627,11 @@
       window.close();
     },
     music: function (path) {
-      if (page.music) page.music.pause();
+      if (page.music) { page.music.pause(); page.music.remove(); }
       page.music = new Audio(mediaUrl(path));
+      page.music.className = 'qor-music';
       page.music.loop = true;
+      document.body.appendChild(page.music);
       startMusic();
     },
     sound: function (path) {
@@ -625,53 +692,18 @@
 
   // ---- start --------------------------------------------------------------------
 
-  // Twips to pixels, halves to even, as the player rounds them.
-  function px(twips) {
-    var v = Math.max(-32767, Math.min(32767, (Number(twips) || 0) / 15));
-    var f = Math.floor(v), d = v - f;
-    return d > 0.5 || (d === 0.5 && f % 2 !== 0) ? f + 1 : f;
-  }
 
-  function firstFrame() {
-    if (!window.qorFirstFrame) requestAnimationFrame(function () { window.qorFirstFrame = performance.now(); });
-  }
-
-  // The window as the player first shows it, painted while the player
-  // compiles and the pictures decode; the player's own scene replaces it.
-  function paintPreview(p) {
-    build();
-    var width = p.fullScreen ? window.innerWidth : Math.max(1, px(p.width));
-    var height = p.fullScreen ? window.innerHeight : Math.max(1, px(p.height));
-    var s = el.window.style;
-    s.width = width + 'px';
-    s.height = height + 'px';
-    s.left = Math.max(0, Math.floor((window.innerWidth - width) / 2)) + 'px';
-    s.top = Math.max(0, Math.floor((window.innerHeight - height) / 2)) + 'px';
-    el.back.style.backgroundColor = css(p.backColor);
-    el.border.style.display = 'none';
-    p.buttons.forEach(function (b) {
-      var url = urlOf(FOLDER + b[2]);
-      if (!page.files[key(FOLDER + b[2])]) return;
-      var node = document.createElement('img');
-      node.className = 'qor-button';
-      node.src = url;
-      node.style.left = px(b[0]) + 'px';
-      node.style.top = px(b[1]) + 'px';
-      el.back.appendChild(node);
-    });
-    // The background comes from its own file, as a plain page would show it;
-    // the player keeps that picture when its scene names the same one.
-    if (!p.image || !page.files[key(FOLDER + p.image)]) return firstFrame();
-    el.backImage.onload = firstFrame;
-    el.backImage.onerror = firstFrame;
-    el.backImage.style.width = '100%';
-    el.backImage.style.height = '100%';
-    el.backImage.src = urlOf(FOLDER + p.image);
-    el.backImage.setAttribute('data-path', key(FOLDER + p.image));
-  }
-  if (menu.preview) paintPreview(menu.preview);
-
-  window.addEventListener('resize', function () { if (page.scene && page.scene.window) layout(); });
+  // A page resized before the visitor moved the window keeps it centred.
+  window.addEventListener('resize', function () {
+    var w = page.scene && page.scene.window;
+    if (!w) return;
+    if (!page.dragged && !w.fullScreen) {
+      w.left = Math.max(0, Math.floor((window.innerWidth - w.width) / 2));
+      w.top = Math.max(0, Math.floor((window.innerHeight - w.height) / 2));
+      send('qor_window_moved', ['number', 'number'], [w.left, w.top]);
+    }
+    layout();
+  });
 
   // The player compiles while the pictures decode: the menu starts once both are ready.
   var started = performance.now();
@@ -687,10 +719,13 @@
     }).then(function () { return QorPlayer({ qorPage: pageSide }); });
   }
 
-  Promise.all([loadPlayer().then(function (m) { window.qorCompiled = performance.now(); return m; }),
-               // The pictures' bytes are decoded once the preview is on screen.
-               new Promise(function (painted) { requestAnimationFrame(function () { setTimeout(painted, 0); }); })
-                 .then(loadImages).then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
+  // The player is read and compiled, and the pictures' bytes decoded, once
+  // the page's window is on screen: neither holds its first frame back.
+  var painted = new Promise(function (done) {
+    (function ask() { if (window.qorFirstFrame) setTimeout(done, 0); else requestAnimationFrame(ask); })();
+  });
+  Promise.all([painted.then(loadPlayer).then(function (m) { window.qorCompiled = performance.now(); return m; }),
+               painted.then(loadImages).then(function () { window.qorDecoded = performance.now(); })]).then(function (ready) {
     window.qorFrontStart = started;
     var module = ready[0];
     core = module;

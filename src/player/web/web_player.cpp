@@ -100,6 +100,7 @@ std::string windowJson(const WindowScene& w)
     return Json()
         .str("caption", w.caption)
         .flag("fullScreen", w.fullScreen)
+        .num("left", px(w.left)).num("top", px(w.top))
         .num("width", std::max(1, px(w.width))).num("height", std::max(1, px(w.height)))
         .num("backColor", w.backColor)
         .str("backgroundImage", w.backgroundImage)
@@ -424,6 +425,18 @@ EMSCRIPTEN_KEEPALIVE void qor_close()
 {
     if (ready())
         session->player->close();
+}
+// The visitor dragged the window to there, in the page's pixels.
+EMSCRIPTEN_KEEPALIVE void qor_window_moved(int left, int top)
+{
+    if (ready())
+        session->player->windowMoved(left, top);
+}
+// The visitor minimised or restored the window (0 normal, 1 minimised).
+EMSCRIPTEN_KEEPALIVE void qor_window_state(int state)
+{
+    if (ready())
+        session->player->windowStateChanged(state);
 }
 // The context menu's entries, one per line.
 EMSCRIPTEN_KEEPALIVE const char* qor_context_entries()
