@@ -11,9 +11,9 @@
 // modal, with the answer reaching the script, in the browser's look.
 
 var QOR_SUSPENDING_IMPORTS = ['js_message_box', 'js_input_box'];
-var QOR_SCRIPT_CALLS = ['qor_start', 'qor_run_statement', 'qor_enter', 'qor_leave', 'qor_press', 'qor_release',
-  'qor_background_over', 'qor_background_leave', 'qor_timer', 'qor_text_edited', 'qor_close',
-  'qor_choose_context'];
+// Every call of the page's may run a script, but for the context menu's
+// list, which the page reads at once.
+var QOR_PLAIN_CALLS = ['qor_context_entries'];
 
 Module['qorWaits'] = typeof WebAssembly.Suspending === 'function' && typeof WebAssembly.promising === 'function';
 
@@ -26,8 +26,9 @@ Module['instantiateWasm'] = function (imports, receiveInstance) {
   WebAssembly.instantiate(getBinary(wasmBinaryFile), imports).then(function (result) {
     var exports = Object.assign({}, result.instance.exports);
     if (Module['qorWaits']) {
-      QOR_SCRIPT_CALLS.forEach(function (name) {
-        exports[name] = WebAssembly.promising(result.instance.exports[name]);
+      Object.keys(exports).forEach(function (name) {
+        if (name.indexOf('qor_') === 0 && QOR_PLAIN_CALLS.indexOf(name) < 0)
+          exports[name] = WebAssembly.promising(result.instance.exports[name]);
       });
     }
     receiveInstance({ exports: exports }, result.module);
