@@ -381,7 +381,8 @@ def build_and_run(d):
     d.wait_for_file(os.path.join(target, "qor", "autorun.exe"), "the compiled player in " + target)
     need(any(name.lower() == "autorun.inf" for name in os.listdir(target)),
          "the compilation wrote no autorun.inf in " + target)
-    e.close_window(dialog)
+    # Left with Escape once the compilation is done, as any other dialog.
+    escape_from(d, "^Création pour graver$")
 
     # F5 on the worksheet: the player shows the menu, the editor waits.
     before = set(d.window_ids("."))
