@@ -634,12 +634,23 @@ def rough_hands(d):
         d.key("ctrl+a", "ctrl+c", "ctrl+End", "ctrl+v")
     d.wait(lambda: editor.exists(), "the script editor to stay after the paste")
     e.close_window(editor)
-    # A button dragged off the worksheet.
+    # A new button whose three image dialogs are left with Escape takes the
+    # pictures the panel still shows, those of the button shown last.
+    e.tool("Multimédia")
+    for caption in ("^Image normale", "^Image au survol", "^Image clique"):
+        escape_from(d, caption)
+    # That button, on top, dragged off the worksheet.
     left, top, width, _ = e.sheet.geometry()
     d.drag((left + 30, top + 20), (left + width + 60, top + 40), modifier="shift")
     lines = e.save_as("rough.qor")
-    blocks = [i for i, line in enumerate(lines) if line == "[Bouton]"]
-    hover = button_block(lines, len(blocks))[7]
+    count = sum(line == "[Bouton]" for line in lines)
+    blocks = [button_block(lines, n) for n in range(1, count + 1)]
+    # The buttons of the double click had no picture to take: none is saved.
+    need([b[5] for b in blocks] == ["code", "vidéo"], "the saved buttons are of kinds %r" % [b[5] for b in blocks])
+    code, video = blocks
+    need(video[2:5] == code[2:5] and all(code[2:5]),
+         "the button made with every image dialog escaped was saved with pictures %r, not %r" % (video[2:5], code[2:5]))
+    hover = code[7]
     need(hover.startswith("MsgBox 1¤"), "the line typed before closing was saved as %r" % hover[:40])
     need(len(hover) >= 60000, "the pasted script was saved with %d characters" % len(hover))
 
