@@ -56,9 +56,12 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     scroll_->setMaximum(0);
     connect(scroll_, &QScrollBar::valueChanged, this, [this](int v) { scrollTo(v); });
     setFixedWidth(twipsToPixels(kWidth, screen.twipsPerPixelX));
-    PanelSet first;
-    first.add(PanelId::Window);
-    showPanels(first);
+    // The window's panel first. Only the others are hidden: showing a panel
+    // lays it out at once, and it is laid out anyway when the window is shown,
+    // with its size and its fonts.
+    button_->hide();
+    button_->showSubPanels(false, false);
+    text_->hide();
     runLoadHooks(*this, hooks);
 }
 
