@@ -1,6 +1,7 @@
 #include "editor/platform/qt_settings_store.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QObject>
 #include <QSettings>
 #include <QTimer>
@@ -51,10 +52,18 @@ private:
     bool open_ = false;
 };
 
+// Holds the pending flush, and keeps each file from writing itself at the
+// event loop's next turn, as QSettings would after every change: that turn
+// paints the windows of a start, and the write would come before them.
+class FlushContext : public QObject {
+protected:
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::UpdateRequest; }
+};
+
 }  // namespace
 
 QtSettingsStore::QtSettingsStore(QString folder)
-    : folder_(std::move(folder)), flushContext_(std::make_unique<QObject>())
+    : folder_(std::move(folder)), flushContext_(std::make_unique<FlushContext>())
 {
 }
 
@@ -75,8 +84,10 @@ QSettings& QtSettingsStore::settingsOf(const std::string& application)
 {
     const QString file = fileName(application);
     auto& settings = open_[file];
-    if (!settings)
+    if (!settings) {
         settings = std::make_unique<QSettings>(file, QSettings::IniFormat);
+        settings->installEventFilter(flushContext_.get());
+    }
     return *settings;
 }
 
