@@ -21,7 +21,7 @@ SHAPE_PANEL = {"Aperçu": (70, 50), "Recommencer": (70, 78), "Pas de forme": (70
                "Annuler": (70, 162), "Charger": (70, 231), "Sauver": (70, 259)}
 
 # The properties panel ("Paramètres") showing a button, and the window.
-PANEL_BUTTON = {"Actions au survol": (141, 238)}
+PANEL_BUTTON = {"Actions au survol": (141, 238), "Modifier la position": (94, 261)}
 PANEL_SELECTOR = (90, 12)
 # The window's panel scrolled to its end.
 PANEL_SCROLLED = {"Minuteur": (11, 146), "timer Modif.": (141, 229), "global Modif.": (141, 295)}
@@ -499,6 +499,21 @@ def escape_from(d, caption):
     d.gone(dialog)
 
 
+def escape_prompt(d, open_it):
+    """The untitled prompt that open_it brings up, left with Escape: none may follow it."""
+    def active():
+        wid = d.xdotool("getactivewindow", check=False).strip()
+        return wid if wid.isdigit() else None
+    before = set(d.window_ids(".")) | {active()}
+    open_it()
+    prompt = d.wait(lambda: active() not in before and active(), "a prompt to open")
+    prompt = Window(d, prompt, d.caption(prompt))
+    d.key("Escape")
+    d.gone(prompt)
+    time.sleep(0.5)
+    need(active() in before, "another prompt came after the first was left with Escape")
+
+
 def pick_colour(d, html):
     """The colour dialog answered by typing into its HTML field."""
     dialog = d.window(COLOUR_DIALOG)
@@ -614,7 +629,10 @@ def rough_hands(d):
     # Escape in each image dialog, as many as the clicks opened.
     answer_each(d, "^Image ", 8, 2, lambda: d.key("Escape"))
     e.tool("Code VBS")
+    d.type("zz")   # typed while the image dialog opens
     e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
+    # Its position prompt left with Escape: the button stays where it was made.
+    escape_prompt(d, lambda: e.panel.click(*PANEL_BUTTON["Modifier la position"]))
     # Closed while the formatter waits to run on the line just ended.
     e.panel.click(*PANEL_BUTTON["Actions au survol"])
     editor = d.window(r"^Actions au survol du bouton [0-9]+$")
@@ -650,6 +668,8 @@ def rough_hands(d):
     code, video = blocks
     need(video[2:5] == code[2:5] and all(code[2:5]),
          "the button made with every image dialog escaped was saved with pictures %r, not %r" % (video[2:5], code[2:5]))
+    need([float(v) for v in code[:2]] == [200, 200], "the button whose position prompt was left with Escape was "
+         "saved at %r twips" % code[:2])
     hover = code[7]
     need(hover.startswith("MsgBox 1¤"), "the line typed before closing was saved as %r" % hover[:40])
     need(len(hover) >= 60000, "the pasted script was saved with %d characters" % len(hover))
