@@ -106,8 +106,14 @@ bool QtSettingsStore::save(const std::string& application, const std::string& se
                            const std::string& key, const std::string& value)
 {
     QSettings& settings = settingsOf(application);
-    if (!settings.isWritable())
-        return false;
+    // Asked once per burst: for a file not written yet, each answer makes
+    // and drops a temporary file beside it.
+    const QString file = settings.fileName();
+    if (!writableChecked_.contains(file)) {
+        if (!settings.isWritable())
+            return false;
+        writableChecked_.insert(file);
+    }
     {
         SectionScope scope(settings, toQt(section));
         settings.setValue(storedSpelling(settings.childKeys(), toQt(key)), toQt(value));
@@ -127,6 +133,7 @@ void QtSettingsStore::scheduleFlush()
 bool QtSettingsStore::flush()
 {
     flushPending_ = false;
+    writableChecked_.clear();
     bool ok = true;
     for (auto& [file, settings] : open_) {
         settings->sync();
