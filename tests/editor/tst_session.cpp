@@ -21,6 +21,9 @@
 #include "core/project/project_file.h"
 #include "core/project/qmb_import.h"
 #include "editor/app/menu_title_label.h"
+#include "editor/designer/button_panel.h"
+#include "editor/designer/properties_panel.h"
+#include "editor/designer/text_panel.h"
 #include "editor/designer/toolbox_window.h"
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/colours.h"
@@ -95,6 +98,7 @@ private slots:
     void pluginsFileProblems_data();
     void pluginsFileProblems();
     void menuTitlesTakeTheCoresColoursAndPlaces();
+    void elementPanelsBuiltLaterTakeTheAppearance();
     void filePropertiesWindow();
     void unreadablePictures_data();
     void unreadablePictures();
@@ -396,6 +400,26 @@ void TestSession::menuTitlesTakeTheCoresColoursAndPlaces()
     // A click on the window's body resets the titles.
     QTest::mouseClick(&main, Qt::LeftButton, {}, QPoint(main.width() - 2, main.height() - 2));
     QCOMPARE(main.highlightedMenuTitle(), -1);
+}
+
+void TestSession::elementPanelsBuiltLaterTakeTheAppearance()
+{
+    Session s;
+    // Red windows, white fields, blue text, Arial.
+    Session::write(s.programFile(kOptionsFileName),
+                   "non\r\noui\r\noui\r\n 255 \r\n 16777215 \r\n 16711680 \r\nArial\r\nnon\r\noui\r\n");
+    QCOMPARE(s.start(), StartOutcome::Running);
+    // The button and text-box panels come after the start coloured the panel.
+    PropertiesPanel& panel = s.windows().properties();
+    auto* field = panel.buttonPanel().findChild<QLineEdit*>(QStringLiteral("Text_normale"));
+    auto* command = panel.textPanel().findChild<QPushButton*>(QStringLiteral("Command_supprimer_texte"));
+    QVERIFY(field && command);
+    QCOMPARE(field->palette().color(QPalette::Base), QColor(255, 255, 255));
+    QCOMPARE(field->palette().color(QPalette::Text), QColor(0, 0, 255));
+    QCOMPARE(command->palette().color(QPalette::Button), QColor(255, 0, 0));
+    QCOMPARE(command->palette().color(QPalette::ButtonText), QColor(0, 0, 255));
+    QCOMPARE(command->font().family(), QStringLiteral("Arial"));
+    QVERIFY(!(command->focusPolicy() & Qt::TabFocus));
 }
 
 void TestSession::filePropertiesWindow()

@@ -272,6 +272,13 @@ void TestWindows::splashSizeAndPicture()
     QCOMPARE(s.size(), QSize(308, 146));
     QVERIFY(!s.picture().isNull());
     QCOMPARE(s.picture().size(), QSize(308, 146));
+    // Its rows read in the right order, each in red, green, blue: a blue
+    // ground, darker at the top than at the bottom.
+    const QImage picture = s.picture().toImage();
+    const QColor top = picture.pixelColor(10, 10);
+    const QColor bottom = picture.pixelColor(10, 135);
+    QVERIFY(top.blue() > top.red() + 60);
+    QVERIFY(bottom.lightness() > top.lightness() + 30);
     QVERIFY(s.windowFlags().testFlag(Qt::FramelessWindowHint));
     // On a 120 DPI screen the same twips are fewer pixels.
     SplashWindow small(screenMetricsOf(QSize(1024, 768), 120, 120));

@@ -21,7 +21,7 @@ SHAPE_PANEL = {"Aperçu": (70, 50), "Recommencer": (70, 78), "Pas de forme": (70
                "Annuler": (70, 162), "Charger": (70, 231), "Sauver": (70, 259)}
 
 # The properties panel ("Paramètres") showing a button, and the window.
-PANEL_BUTTON = {"Actions au survol": (141, 238)}
+PANEL_BUTTON = {"Actions au survol": (141, 238), "Modifier la position": (94, 261)}
 PANEL_SELECTOR = (90, 12)
 # The window's panel scrolled to its end.
 PANEL_SCROLLED = {"Minuteur": (11, 146), "timer Modif.": (141, 229), "global Modif.": (141, 295)}
@@ -381,7 +381,8 @@ def build_and_run(d):
     d.wait_for_file(os.path.join(target, "qor", "autorun.exe"), "the compiled player in " + target)
     need(any(name.lower() == "autorun.inf" for name in os.listdir(target)),
          "the compilation wrote no autorun.inf in " + target)
-    e.close_window(dialog)
+    # Left with Escape once the compilation is done, as any other dialog.
+    escape_from(d, "^Création pour graver$")
 
     # F5 on the worksheet: the player shows the menu, the editor waits.
     before = set(d.window_ids("."))
@@ -496,6 +497,21 @@ def escape_from(d, caption):
     dialog.activate()
     d.key("Escape")
     d.gone(dialog)
+
+
+def escape_prompt(d, open_it):
+    """The untitled prompt that open_it brings up, left with Escape: none may follow it."""
+    def active():
+        wid = d.xdotool("getactivewindow", check=False).strip()
+        return wid if wid.isdigit() else None
+    before = set(d.window_ids(".")) | {active()}
+    open_it()
+    prompt = d.wait(lambda: active() not in before and active(), "a prompt to open")
+    prompt = Window(d, prompt, d.caption(prompt))
+    d.key("Escape")
+    d.gone(prompt)
+    time.sleep(0.5)
+    need(active() in before, "another prompt came after the first was left with Escape")
 
 
 def pick_colour(d, html):
@@ -613,7 +629,10 @@ def rough_hands(d):
     # Escape in each image dialog, as many as the clicks opened.
     answer_each(d, "^Image ", 8, 2, lambda: d.key("Escape"))
     e.tool("Code VBS")
+    d.type("zz")   # typed while the image dialog opens
     e.images(pictures["rouge"], pictures["vert"], pictures["bleu"])
+    # Its position prompt left with Escape: the button stays where it was made.
+    escape_prompt(d, lambda: e.panel.click(*PANEL_BUTTON["Modifier la position"]))
     # Closed while the formatter waits to run on the line just ended.
     e.panel.click(*PANEL_BUTTON["Actions au survol"])
     editor = d.window(r"^Actions au survol du bouton [0-9]+$")
@@ -633,12 +652,25 @@ def rough_hands(d):
         d.key("ctrl+a", "ctrl+c", "ctrl+End", "ctrl+v")
     d.wait(lambda: editor.exists(), "the script editor to stay after the paste")
     e.close_window(editor)
-    # A button dragged off the worksheet.
+    # A new button whose three image dialogs are left with Escape takes the
+    # pictures the panel still shows, those of the button shown last.
+    e.tool("Multimédia")
+    for caption in ("^Image normale", "^Image au survol", "^Image clique"):
+        escape_from(d, caption)
+    # That button, on top, dragged off the worksheet.
     left, top, width, _ = e.sheet.geometry()
     d.drag((left + 30, top + 20), (left + width + 60, top + 40), modifier="shift")
     lines = e.save_as("rough.qor")
-    blocks = [i for i, line in enumerate(lines) if line == "[Bouton]"]
-    hover = button_block(lines, len(blocks))[7]
+    count = sum(line == "[Bouton]" for line in lines)
+    blocks = [button_block(lines, n) for n in range(1, count + 1)]
+    # The buttons of the double click had no picture to take: none is saved.
+    need([b[5] for b in blocks] == ["code", "vidéo"], "the saved buttons are of kinds %r" % [b[5] for b in blocks])
+    code, video = blocks
+    need(video[2:5] == code[2:5] and all(code[2:5]),
+         "the button made with every image dialog escaped was saved with pictures %r, not %r" % (video[2:5], code[2:5]))
+    need([float(v) for v in code[:2]] == [200, 200], "the button whose position prompt was left with Escape was "
+         "saved at %r twips" % code[:2])
+    hover = code[7]
     need(hover.startswith("MsgBox 1¤"), "the line typed before closing was saved as %r" % hover[:40])
     need(len(hover) >= 60000, "the pasted script was saved with %d characters" % len(hover))
 

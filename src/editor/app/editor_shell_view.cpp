@@ -204,6 +204,8 @@ void EditorShellView::applyAppearance(WindowId window, const Appearance& appeara
         return;
     auto node = windowNode(*w);
     qor::applyAppearance(*node, appearance);
+    if (window == WindowId::PropertiesPanel)
+        windows_.properties().keepAppearance(appearance);
     // The main window paints its menu titles itself, in the window's colours.
     if (window == WindowId::Main) {
         const QPalette& system = QApplication::palette();

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QImageReader>
+#include <QThreadPool>
 #include <QTimer>
 #include <QWindow>
 
@@ -15,11 +17,29 @@
 #include "editor/ui/splash_window.h"
 #include "editor/platform/widget_names.h"
 
+#include <mutex>
+
 namespace qor {
+namespace {
+
+// The first paint of the windows reads a picture of the style's own (the
+// frame of a group box), and the first picture read loads every image format
+// plug-in. Loaded meanwhile on another processor, while the windows are
+// built, they are ready when the windows paint.
+void loadImageFormatsAhead()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        QThreadPool::globalInstance()->start([] { (void)QImageReader::supportedImageFormats(); });
+    });
+}
+
+}  // namespace
 
 EditorWindows::EditorWindows(const ScreenMetrics& screen, WindowHooks& hooks)
     : screen_(screen), hooks_(hooks)
 {
+    loadImageFormatsAhead();
     splash_ = std::make_unique<SplashWindow>(screen_, hooks_);
 }
 

@@ -9,6 +9,7 @@
 
 #include "core/designer/designer.h"
 #include "core/designer/element_selector.h"
+#include "core/ui/appearance_rules.h"
 #include "editor/designer/button_panel.h"
 #include "editor/designer/text_panel.h"
 #include "editor/designer/window_panel.h"
@@ -40,14 +41,11 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     QFont small = content_->font();
     small.setPointSizeF(std::min(small.pointSizeF(), 8.0));
     content_->setFont(small);
-    auto* column = new QVBoxLayout(content_);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column_ = new QVBoxLayout(content_);
+    column_->setContentsMargins(0, 0, 0, 0);
+    column_->setSpacing(0);
     window_ = new WindowPanel(content_, hooks);
-    button_ = new ButtonPanel(content_);
-    text_ = new TextPanel(content_);
-    for (QWidget* p : {static_cast<QWidget*>(window_), static_cast<QWidget*>(button_), static_cast<QWidget*>(text_)})
-        column->addWidget(p);
+    column_->addWidget(window_);
     // No stretch below: the area is made exactly as tall as the panels ask
     // for their width, and a stretch would take its share of that height
     // from them.
@@ -56,18 +54,52 @@ PropertiesPanel::PropertiesPanel(const ScreenMetrics& screen, WindowHooks& hooks
     scroll_->setMaximum(0);
     connect(scroll_, &QScrollBar::valueChanged, this, [this](int v) { scrollTo(v); });
     setFixedWidth(twipsToPixels(kWidth, screen.twipsPerPixelX));
-    PanelSet first;
-    first.add(PanelId::Window);
-    showPanels(first);
+    // The window's panel shows first, laid out when the window is shown, with
+    // its size and its fonts: showing it now would lay it out for nothing.
     runLoadHooks(*this, hooks);
+}
+
+void PropertiesPanel::buildLateControls()
+{
+    if (button_)
+        return;
+    button_ = new ButtonPanel(content_);
+    text_ = new TextPanel(content_);
+    button_->hide();
+    button_->showSubPanels(false, false);
+    text_->hide();
+    column_->addWidget(button_);
+    column_->addWidget(text_);
+    if (designer_) {
+        button_->connectFlows(designer_->elementPanel());
+        text_->connectFlows(designer_->elementPanel(), *designer_);
+    }
+    // The controls coloured already keep their colours: only the new ones change.
+    if (appearance_)
+        applyAppearance(*windowNode(*this), *appearance_);
+}
+
+ButtonPanel& PropertiesPanel::buttonPanel()
+{
+    buildLateControls();
+    return *button_;
+}
+
+TextPanel& PropertiesPanel::textPanel()
+{
+    buildLateControls();
+    return *text_;
 }
 
 void PropertiesPanel::connectDesigner(Designer& designer)
 {
+    designer_ = &designer;
     connect(selector_, &QComboBox::activated, this, [&designer](int index) { designer.select(index); });
     window_->connectFlows(designer.windowPanel());
-    button_->connectFlows(designer.elementPanel());
-    text_->connectFlows(designer.elementPanel(), designer);
+    if (button_) {
+        button_->connectFlows(designer.elementPanel());
+        text_->connectFlows(designer.elementPanel(), designer);
+    }
 }
 
 void PropertiesPanel::resetElementSelector()
@@ -95,10 +127,14 @@ void PropertiesPanel::showSelectedEntry(int index)
 
 void PropertiesPanel::showPanels(const PanelSet& panels)
 {
+    if (panels.has(PanelId::Button) || panels.has(PanelId::Text))
+        buildLateControls();
     window_->setVisible(panels.has(PanelId::Window));
-    button_->setVisible(panels.has(PanelId::Button));
-    button_->showSubPanels(panels.has(PanelId::Media), panels.has(PanelId::Code));
-    text_->setVisible(panels.has(PanelId::Text));
+    if (button_) {
+        button_->setVisible(panels.has(PanelId::Button));
+        button_->showSubPanels(panels.has(PanelId::Media), panels.has(PanelId::Code));
+        text_->setVisible(panels.has(PanelId::Text));
+    }
     // Another element's panel is read from its top.
     const QSignalBlocker quiet(scroll_);
     scroll_->setValue(0);

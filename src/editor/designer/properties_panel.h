@@ -1,14 +1,18 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "core/designer/designer_view.h"
 #include "core/ports/screen.h"
+#include "core/ui/appearances_file.h"
 #include "editor/ui/tool_window.h"
+#include "editor/ui/widget_control_node.h"
 #include "editor/ui/window_hooks.h"
 
 class QComboBox;
 class QScrollBar;
+class QVBoxLayout;
 
 namespace qor {
 
@@ -20,8 +24,10 @@ class WindowPanel;
 // The properties panel "Paramètres" ("Form4"): the element selector at the
 // top and, below it, the content area that shows one panel at a time (the
 // window, a button with its sub-panel, a text box) with a scroll bar at its
-// right that moves it in steps of 500 twips. Its width is fixed.
-class PropertiesPanel : public ToolWindow {
+// right that moves it in steps of 500 twips. Its width is fixed. The button
+// and text-box panels are built when an element is first shown, or when a
+// script names their controls.
+class PropertiesPanel : public ToolWindow, public LateControls {
     Q_OBJECT
 public:
     static constexpr double kWidth = 2985;
@@ -45,8 +51,12 @@ public:
 
     void showPanels(const PanelSet& panels);
     WindowPanel& windowPanel() const { return *window_; }
-    ButtonPanel& buttonPanel() const { return *button_; }
-    TextPanel& textPanel() const { return *text_; }
+    ButtonPanel& buttonPanel();
+    TextPanel& textPanel();
+
+    // The appearance the window was last given: the panels built later take it.
+    void keepAppearance(const Appearance& appearance) { appearance_ = appearance; }
+    void buildLateControls() override;
 
 signals:
     // The first time the panel becomes the active window, and never again:
@@ -68,6 +78,9 @@ private:
     QScrollBar* scroll_ = nullptr;
     QWidget* viewport_ = nullptr;
     QWidget* content_ = nullptr;
+    QVBoxLayout* column_ = nullptr;
+    Designer* designer_ = nullptr;
+    std::optional<Appearance> appearance_;
     WindowPanel* window_ = nullptr;
     ButtonPanel* button_ = nullptr;
     TextPanel* text_ = nullptr;

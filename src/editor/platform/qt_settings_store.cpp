@@ -1,6 +1,7 @@
 #include "editor/platform/qt_settings_store.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QObject>
 #include <QSettings>
 #include <QTimer>
@@ -51,10 +52,18 @@ private:
     bool open_ = false;
 };
 
+// Holds the pending flush, and keeps each file from writing itself at the
+// event loop's next turn, as QSettings would after every change: that turn
+// paints the windows of a start, and the write would come before them.
+class FlushContext : public QObject {
+protected:
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::UpdateRequest; }
+};
+
 }  // namespace
 
 QtSettingsStore::QtSettingsStore(QString folder)
-    : folder_(std::move(folder)), flushContext_(std::make_unique<QObject>())
+    : folder_(std::move(folder)), flushContext_(std::make_unique<FlushContext>())
 {
 }
 
@@ -75,8 +84,10 @@ QSettings& QtSettingsStore::settingsOf(const std::string& application)
 {
     const QString file = fileName(application);
     auto& settings = open_[file];
-    if (!settings)
+    if (!settings) {
         settings = std::make_unique<QSettings>(file, QSettings::IniFormat);
+        settings->installEventFilter(flushContext_.get());
+    }
     return *settings;
 }
 
@@ -95,8 +106,14 @@ bool QtSettingsStore::save(const std::string& application, const std::string& se
                            const std::string& key, const std::string& value)
 {
     QSettings& settings = settingsOf(application);
-    if (!settings.isWritable())
-        return false;
+    // Asked once per burst: for a file not written yet, each answer makes
+    // and drops a temporary file beside it.
+    const QString file = settings.fileName();
+    if (!writableChecked_.contains(file)) {
+        if (!settings.isWritable())
+            return false;
+        writableChecked_.insert(file);
+    }
     {
         SectionScope scope(settings, toQt(section));
         settings.setValue(storedSpelling(settings.childKeys(), toQt(key)), toQt(value));
@@ -116,6 +133,7 @@ void QtSettingsStore::scheduleFlush()
 bool QtSettingsStore::flush()
 {
     flushPending_ = false;
+    writableChecked_.clear();
     bool ok = true;
     for (auto& [file, settings] : open_) {
         settings->sync();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 #include <map>
@@ -54,6 +55,8 @@ private:
     // Owns the pending flush, so that it dies with the store.
     std::unique_ptr<QObject> flushContext_;
     bool flushPending_ = false;
+    // The files found writable since the last flush.
+    QSet<QString> writableChecked_;
 };
 
 }  // namespace qor

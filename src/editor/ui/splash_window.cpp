@@ -1,7 +1,9 @@
 #include "editor/ui/splash_window.h"
 
 #include <QCloseEvent>
+#include <QImage>
 #include <QPainter>
+#include <QResource>
 
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
@@ -14,6 +16,26 @@ static void registerEditorResources()
 }
 
 namespace qor {
+namespace {
+
+// The picture is kept as raw 8-bit red, green and blue rows, top row first:
+// it is on screen at once, without an image decoder to find, load and run
+// while the editor starts.
+constexpr int kPictureWidth = 308;
+constexpr int kPictureHeight = 146;
+
+QPixmap splashPicture()
+{
+    const QResource resource(QStringLiteral(":/qor/splash.rgb"));
+    const QByteArray rows = resource.uncompressedData();
+    if (rows.size() != qsizetype(kPictureWidth) * kPictureHeight * 3)
+        return {};
+    const QImage picture(reinterpret_cast<const uchar*>(rows.constData()), kPictureWidth, kPictureHeight,
+                         kPictureWidth * 3, QImage::Format_RGB888);
+    return QPixmap::fromImage(picture);
+}
+
+}  // namespace
 
 SplashWindow::SplashWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
@@ -21,7 +43,7 @@ SplashWindow::SplashWindow(const ScreenMetrics& screen, WindowHooks& hooks)
     registerEditorResources();
     named(this, WindowId::Splash);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    picture_.load(QStringLiteral(":/qor/splash.png"));
+    picture_ = splashPicture();
     setFixedSize(twipsToPixels(kWidth, kHeight, screen));
     timer_.setSingleShot(true);
     timer_.setInterval(kTimeoutMs);

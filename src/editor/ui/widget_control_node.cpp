@@ -109,6 +109,8 @@ std::vector<QObject*> WidgetControlNode::windowControls() const
 std::vector<std::unique_ptr<ControlNode>> WidgetControlNode::controls(std::string_view name)
 {
     if (!byName_) {
+        if (auto* late = dynamic_cast<LateControls*>(window_.data()))
+            late->buildLateControls();
         byName_.emplace();
         for (QObject* o : windowControls())
             if (!o->objectName().isEmpty())

@@ -14,6 +14,15 @@ class QWidget;
 
 namespace qor {
 
+// A window that builds some of its controls only when they are first shown.
+// A script that names controls (a translation) needs them all, so looking a
+// control up by name builds them first.
+class LateControls {
+public:
+    virtual ~LateControls() = default;
+    virtual void buildLateControls() = 0;
+};
+
 // A window, widget, menu or menu command as the translation scripts and
 // the appearance rules see it, found by its object name.
 class WidgetControlNode : public ControlNode {
