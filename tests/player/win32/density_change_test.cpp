@@ -7,7 +7,6 @@
 
 #include "model/menu_data_writer.h"
 #include "player/win32/menu_window.h"
-#include "player/win32/wide.h"
 #include "player/win32/win32_system.h"
 
 namespace qor::player {
@@ -16,26 +15,6 @@ namespace {
 #ifndef WM_DPICHANGED
 constexpr UINT WM_DPICHANGED = 0x02E0;
 #endif
-
-// A 24-bit bitmap of one colour.
-std::string bitmap(int width, int height)
-{
-    const int row = (width * 3 + 3) / 4 * 4;
-    std::string b(std::size_t(54 + row * height), '\0');
-    auto put = [&b](std::size_t at, std::uint32_t v, int bytes) {
-        for (int i = 0; i < bytes; ++i, v >>= 8)
-            b[at + std::size_t(i)] = char(v & 0xFF);
-    };
-    b[0] = 'B';
-    b[1] = 'M';
-    for (const auto& [at, v, bytes] : std::initializer_list<std::tuple<std::size_t, std::uint32_t, int>>{
-             {2, std::uint32_t(b.size()), 4}, {10, 54, 4}, {14, 40, 4}, {18, std::uint32_t(width), 4},
-             {22, std::uint32_t(height), 4}, {26, 1, 2}, {28, 24, 2}})
-        put(at, v, bytes);
-    for (std::size_t i = 54; i < b.size(); ++i)
-        b[i] = char(0x80);
-    return b;
-}
 
 std::wstring caption(HWND window)
 {
@@ -60,26 +39,15 @@ void click(HWND window, int x, int y)
 
 TEST(DensityChange, TheWindowAndItsLayoutFollow)
 {
-    wchar_t temp[MAX_PATH + 1];
-    const std::wstring folder = std::wstring(temp, GetTempPathW(MAX_PATH + 1, temp)) + L"qor-densite\\";
-    CreateDirectoryW(folder.c_str(), nullptr);
     Win32System system;
-    const std::string menuFile = narrow(folder) + "autorun.exe";
-    {
-        const std::string image = bitmap(50, 30);
-        HANDLE h = CreateFileW((folder + L"b.bmp").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        ASSERT_TRUE(WriteFile(h, image.data(), DWORD(image.size()), &written, nullptr));
-        CloseHandle(h);
-    }
-    // 400 x 300 as designed; a 50 x 30 button at 40, 40 adds "+" to the
-    // caption; a text box at 200, 150.
+    // 400 x 300 as designed; a button at 40, 40 whose picture is missing
+    // (75 x 25 then) adds "+" to the caption; a text box at 200, 150.
     MenuProject project;
     project.width = 6000;
     project.height = 4500;
     MenuButton& b = project.button(*project.addButton());
     b.kind = std::string(button_kind::code);
-    b.normalImage = b.hoverImage = b.pressedImage = "b.bmp";
+    b.normalImage = b.hoverImage = b.pressedImage = "absent.bmp";
     b.left = 600;
     b.top = 600;
     b.action = "Fenetre.Caption = Fenetre.Caption & \"+\"";
@@ -91,9 +59,8 @@ TEST(DensityChange, TheWindowAndItsLayoutFollow)
     Pictures pictures(system);
     Win32Media media;
     MenuWindow window(pictures, media);
-    MenuPlace place = MenuPlace::of(menuFile, '\\', "");
-    system.setMenuFolder(place.playerFolder);
-    Player player(std::get<MenuData>(std::move(read)), std::move(place), window, media, system);
+    Player player(std::get<MenuData>(std::move(read)), MenuPlace::of("C:\\qor\\autorun.exe", '\\', "C"), window,
+                  media, system);
     window.attach(player);
     player.start();
     const HWND hwnd = window.handle();
@@ -119,9 +86,9 @@ TEST(DensityChange, TheWindowAndItsLayoutFollow)
         EXPECT_NEAR(box.top - at.top, 150 * f, 1) << dpi;
         // Inside the button only at its new size (past its 96-dpi corner
         // above 96 dpi), then just past its new corner.
-        click(hwnd, int(88 * f), int(68 * f));
+        click(hwnd, int(112 * f), int(63 * f));
         EXPECT_EQ(caption(hwnd), L"densite" + std::wstring(++clicks, L'+')) << dpi;
-        click(hwnd, int(92 * f), int(72 * f));
+        click(hwnd, int(117 * f), int(67 * f));
         EXPECT_EQ(caption(hwnd), L"densite" + std::wstring(clicks, L'+')) << dpi << ": a click past the button";
     }
     player.close();
