@@ -2,9 +2,11 @@
 // in a virtual screen, looked at through screenshots and used with the pointer.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <thread>
@@ -328,16 +330,27 @@ TEST(WineMenu, AMenuLargerThanTheScreenIsReducedAsAWhole)
 }
 
 // A button loads a picture and opens a sub-menu through "[CHEMIN]", from a
-// copy of the CD in cd/name.
-void showSubMenuFrom(const std::string& name)
+// copy of the CD in cd/name; with onShare, started as \\serveur\partage\name
+// (wine reads \\serveur\partage from the prefix's dosdevices/unc/serveur/partage,
+// made a link to cd).
+void showSubMenuFrom(const std::string& name, bool onShare = false)
 {
     TempDir cd;
     const std::string folder = cd.folder() + name;
     const MenuProject p = sampleMenu("Set image = LoadPicture(\"[CHEMIN]bleu_n.bmp\")\r\n"
                                      "Set exe_f = CreateObject(\"WScript.Shell\")\r\n"
                                      "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
-    WineProgram player(makeMenu(folder, p, "QOR dossier", sampleFiles()));
+    std::string exe = makeMenu(folder, p, "QOR dossier", sampleFiles());
     makeMenu(folder, sampleMenu(), "QOR sous menu", sampleFiles(), "Sous Menu.exe");
+    if (onShare) {
+        const std::filesystem::path server = std::filesystem::path(std::getenv("WINEPREFIX")) / "dosdevices/unc/serveur";
+        std::filesystem::create_directories(server);
+        std::filesystem::remove(server / "partage");
+        std::filesystem::create_directory_symlink(cd.folder(), server / "partage");
+        exe = "\\\\serveur\\partage" + name + "\\qor\\autorun.exe";
+        std::replace(exe.begin(), exe.end(), '/', '\\');
+    }
+    WineProgram player(exe);
     const std::optional<WindowBox> w = paintedWindow("QOR dossier");
     ASSERT_TRUE(w) << "the menu window never showed";
     clickAt(w->x + 64, w->y + 54);
@@ -360,6 +373,11 @@ TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
     for (const std::string& name : {std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9"), deep}) {
         SCOPED_TRACE(name);
         showSubMenuFrom(name);
+    }
+    // A network share, at its root and in a folder of it.
+    for (const std::string& name : {std::string(), std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9")}) {
+        SCOPED_TRACE("\\\\serveur\\partage" + name);
+        showSubMenuFrom(name, true);
     }
 }
 
