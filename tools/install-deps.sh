@@ -15,6 +15,8 @@ packages=(
   xorriso
   g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
   xvfb xauth xdotool x11-utils openbox imagemagick
+  # the wine checks read the pointer's picture through Xfixes
+  libx11-dev libxfixes-dev
   # the web player: built with emscripten, checked in headless Chromium and Firefox
   emscripten chromium chromium-driver python3-selenium firefox-esr
   # wine only loads these X libraries when present; without them its windows

@@ -89,6 +89,8 @@ CompilePlan PlanBuilder::build()
     // Explorer and the taskbar show the CD's own icon for its program.
     if (!isDefaultIconMarker(project_.icon))
         add({.kind = CompileAction::Kind::SetIcon, .source = project_.resolve(project_.icon), .target = plan_.partialPlayer});
+    if (!request_.projectName.empty() || !request_.author.empty())
+        add({.kind = CompileAction::Kind::SetDetails, .target = plan_.partialPlayer});
     show(kDone);
     buttonImages();
     sounds();

@@ -18,6 +18,7 @@ struct CompileAction {
         CreateFolder,     // target: T + "qor", unless it exists
         Copy,             // source -> target
         SetIcon,          // source: the project's .ico, made the icon of target (the player's copy)
+        SetDetails,       // the menu's name and author written into target's version information
         WriteData,        // the compiled menu data appended to target
         Rename,           // source -> target
     };

@@ -178,13 +178,22 @@ Status Compiler::perform(const CompileAction& a, const MenuProject& project, con
         if (!program)
             return program.error();
         const Result<std::string> icon = files_.readFile(a.source);
-        const ProgramIcon set = icon ? withProgramIcon(*program, *icon) : ProgramIcon{{}, "le fichier ne se lit pas"};
+        const ProgramUpdate set = icon ? withProgramIcon(*program, *icon) : ProgramUpdate{{}, "le fichier ne se lit pas"};
         // A CD is never spoilt by its icon: the player keeps its own.
         if (!set.problem.empty()) {
             dialogs_.message(programIconMessage(a.source, set.problem));
             return {};
         }
         return files_.writeFile(a.target, set.program);
+    }
+    case K::SetDetails: {
+        Result<std::string> program = files_.readFile(a.target);
+        if (!program)
+            return program.error();
+        // A player without version information to change keeps what it has:
+        // the author asked for nothing there, so nothing is said.
+        const ProgramUpdate set = withProgramDetails(*program, {request.projectName, request.author});
+        return set.problem.empty() ? files_.writeFile(a.target, set.program) : Status();
     }
     case K::WriteData:
         return writeMenuData(files_, project, MenuDataInfo{request.projectName, request.author}, a.target);

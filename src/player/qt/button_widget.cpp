@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace qor::player {
 
 ButtonWidget::ButtonWidget(std::size_t index, QWidget* parent, std::function<void(std::size_t, Input)> report)
@@ -11,10 +13,12 @@ ButtonWidget::ButtonWidget(std::size_t index, QWidget* parent, std::function<voi
     setAttribute(Qt::WA_Hover, false);
 }
 
-void ButtonWidget::setPictures(const QPixmap& normal, const QPixmap& shown)
+void ButtonWidget::setPictures(const QPixmap& normal, const QPixmap& shown, double scale)
 {
-    resize(normal.isNull() ? kPlaceholderSize : normal.size());
+    const QSize size = normal.isNull() ? kPlaceholderSize : normal.size();
+    resize(std::max(1, qRound(size.width() * scale)), std::max(1, qRound(size.height() * scale)));
     shown_ = shown;
+    scale_ = scale;
     update();
 }
 
@@ -24,7 +28,7 @@ void ButtonWidget::paintEvent(QPaintEvent*)
     // Scaled smoothly on a screen denser than 96 dpi.
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!shown_.isNull()) {
-        painter.drawPixmap(0, 0, shown_);
+        painter.drawPixmap(QRect(0, 0, qRound(shown_.width() * scale_), qRound(shown_.height() * scale_)), shown_);
         return;
     }
     painter.fillRect(rect(), QColor(212, 208, 200));

@@ -17,7 +17,8 @@ public:
     enum class Input { Enter, Leave, Press, ReleaseOver, ReleaseOutside };
     ButtonWidget(std::size_t index, QWidget* parent, std::function<void(std::size_t, Input)> report);
 
-    void setPictures(const QPixmap& normal, const QPixmap& shown);
+    // scale: the window's reduction when the menu is larger than the screen.
+    void setPictures(const QPixmap& normal, const QPixmap& shown, double scale = 1);
     const QPixmap& shown() const { return shown_; }
 
     static constexpr QSize kPlaceholderSize{75, 25};
@@ -33,6 +34,7 @@ private:
     std::size_t index_;
     std::function<void(std::size_t, Input)> report_;
     QPixmap shown_;
+    double scale_ = 1;
 };
 
 }  // namespace qor::player

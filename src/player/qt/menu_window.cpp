@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <cmath>
+
 #include "player/core/pixels.h"
 #include "player/qt/colours.h"
 #include "player/qt/cursors.h"
@@ -39,11 +41,13 @@ ScreenInfo MenuWindow::screen() const
         info.width = s->geometry().width();
         info.height = s->geometry().height();
     }
+    info.reducesWholeWindow = true;
     return info;
 }
 
-int MenuWindow::px(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelX); }
-int MenuWindow::py(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelY); }
+int MenuWindow::px(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelX / scale_); }
+int MenuWindow::py(double twips) const { return twipsToPixels(twips, screen_.twipsPerPixelY / scale_); }
+int MenuWindow::scaled(int layoutPixels) const { return int(std::lround(layoutPixels * scale_)); }
 
 std::optional<ImageSize> MenuWindow::imageSize(const std::string& path)
 {
@@ -119,11 +123,31 @@ void MenuWindow::windowChanged(const WindowScene& w)
 
 void MenuWindow::applyGeometry(const WindowScene& w)
 {
+    const QScreen* s = QGuiApplication::primaryScreen();
+    const QRect area = s ? s->availableGeometry() : QRect();
+    const double before = scale_;
+    scale_ = w.fullScreen ? 1
+                          : windowScale(1, w.width / screen_.twipsPerPixelX, w.height / screen_.twipsPerPixelY,
+                                        area.width(), area.height());
+    if (scale_ != before) {
+        // Everything in the window takes the new scale.
+        background_ = QPixmap();
+        for (std::size_t i = 0; i < buttons_.size(); ++i)
+            placeButton(i, buttonScenes_[i]);
+        for (std::size_t i = 0; i < textsMade_; ++i)
+            placeText(i, textScenes_[i]);
+        maskSize_ = QSize();
+    }
     if (w.fullScreen) {
-        if (const QScreen* s = QGuiApplication::primaryScreen())
+        if (s)
             setGeometry(s->geometry());
     } else if (!isMaximized()) {
-        setGeometry(px(w.left), py(w.top), std::max(1, px(w.width)), std::max(1, py(w.height)));
+        const int width = std::max(1, px(w.width));
+        const int height = std::max(1, py(w.height));
+        // Reduced, it takes the middle of the free area.
+        const QPoint at = scale_ < 1 ? QPoint(area.left() + (area.width() - width) / 2, area.top() + (area.height() - height) / 2)
+                                     : QPoint(px(w.left), py(w.top));
+        setGeometry(at.x(), at.y(), width, height);
     }
     // Only what a script changed: a window the user minimised stays so while
     // the timer changes its caption.
@@ -144,7 +168,10 @@ void MenuWindow::applyGeometry(const WindowScene& w)
 void MenuWindow::applyMask()
 {
     maskSize_ = size();
-    const QRegion region = windowMask(size(), window_.shape, transparency_);
+    std::vector<PixelPoint> outline = window_.shape;
+    for (PixelPoint& p : outline)
+        p = PixelPoint{scaled(p.x), scaled(p.y)};
+    const QRegion region = windowMask(size(), outline, transparency_);
     if (region.isEmpty())
         clearMask();
     else
@@ -154,7 +181,7 @@ void MenuWindow::applyMask()
 void MenuWindow::resizeEvent(QResizeEvent*)
 {
     background_ = QPixmap();
-    if (maskSize_ != size() && !transparency_.isNull())
+    if (maskSize_ != size() && (!transparency_.isNull() || scale_ != 1))
         applyMask();
 }
 
@@ -181,7 +208,7 @@ void MenuWindow::buttonChanged(std::size_t index, const ButtonScene& button)
 void MenuWindow::placeButton(std::size_t index, const ButtonScene& b)
 {
     ButtonWidget* w = buttons_[index];
-    w->setPictures(images_.pixmap(b.normalImage), images_.pixmap(b.shownImage()));
+    w->setPictures(images_.pixmap(b.normalImage), images_.pixmap(b.shownImage()), scale_);
     w->move(px(b.left), py(b.top));
     w->setVisible(b.visible);
 }
@@ -206,7 +233,7 @@ void MenuWindow::placeText(std::size_t index, const TextScene& t)
 {
     TextBox* box = texts_[index];
     box->setGeometry(px(t.left), py(t.top), std::max(0, px(t.width)), std::max(0, py(t.height)));
-    box->present(t);
+    box->present(t, scale_);
 }
 
 void MenuWindow::timerChanged(const TimerScene& timer)
@@ -245,12 +272,15 @@ void MenuWindow::paintEvent(QPaintEvent*)
     if (!window_.backgroundImage.empty()) {
         const QPixmap& image = images_.pixmap(window_.backgroundImage);
         if (!image.isNull() && background_.isNull())
-            background_ = window_.stretch ? image.scaled(size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
+            background_ = window_.stretch || scale_ != 1
+                              ? image.scaled(window_.stretch ? size() : image.size() * scale_, Qt::IgnoreAspectRatio,
+                                             Qt::SmoothTransformation)
+                              : image;
         painter.drawPixmap(0, 0, background_);
     }
     if (!window_.borderVisible || window_.borderWidth <= 0)
         return;
-    const int pen = window_.borderWidth;
+    const int pen = std::max(1, scaled(window_.borderWidth));
     painter.setPen(QPen(toQColor(window_.borderColor), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
     // The outline stays inside the window, whatever its width.
@@ -305,7 +335,7 @@ void MenuWindow::mouseReleaseEvent(QMouseEvent* event)
         return;
     dragging_ = false;
     if (player_)
-        player_->windowMoved(x(), y());
+        player_->windowMoved(int(std::lround(x() / scale_)), int(std::lround(y() / scale_)));
 }
 
 void MenuWindow::leaveEvent(QEvent*)

@@ -68,9 +68,13 @@ private:
     void warmImages();
     int px(double twips) const;
     int py(double twips) const;
+    int scaled(int layoutPixels) const;
 
     Player* player_ = nullptr;
     ScreenInfo screen_;
+    // Below 1 when the menu is larger than the screen's free area: the
+    // whole window is reduced, so every button stays inside it.
+    double scale_ = 1;
     WindowScene window_;
     std::vector<ButtonScene> buttonScenes_;
     std::vector<TextScene> textScenes_;

@@ -22,7 +22,7 @@ TextBox::TextBox(std::size_t index, QWidget* parent, std::function<void(std::siz
     });
 }
 
-void TextBox::present(const TextScene& s)
+void TextBox::present(const TextScene& s, double scale)
 {
     const QString text = QString::fromStdString(s.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QString current = toPlainText();
@@ -33,7 +33,9 @@ void TextBox::present(const TextScene& s)
     }
     QFont font(QString::fromStdString(s.fontName));
     if (s.fontSize > 0 && s.fontSize < 1000)
-        font.setPointSizeF(s.fontSize);
+        font.setPointSizeF(s.fontSize * scale);
+    else if (scale != 1 && font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * scale);
     font.setBold(s.fontBold);
     font.setItalic(s.fontItalic);
     font.setUnderline(s.fontUnderline);

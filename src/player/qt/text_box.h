@@ -18,8 +18,9 @@ class TextBox : public QTextEdit {
 public:
     TextBox(std::size_t index, QWidget* parent, std::function<void(std::size_t, std::string)> edited,
             std::function<void()> entered);
-    // Everything but the place and size, which need the screen's twips.
-    void present(const TextScene& scene);
+    // Everything but the place and size, which need the screen's twips;
+    // the font grows or shrinks with the window's scale.
+    void present(const TextScene& scene, double scale = 1);
 
 protected:
     void enterEvent(QEnterEvent* event) override;

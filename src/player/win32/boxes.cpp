@@ -1,5 +1,8 @@
 #include "player/win32/boxes.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "player/win32/wide.h"
 
 namespace qor::player {
@@ -18,14 +21,20 @@ struct InputState {
     bool accepted = false;
 };
 
-HFONT messageFont()
+// The system's message font at a density factor; the caller deletes it.
+// The system gives it at the primary screen's density, which is not
+// necessarily the menu's.
+HFONT messageFont(double density)
 {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
-    static HFONT font = SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0)
-                            ? CreateFontIndirectW(&metrics.lfMessageFont)
-                            : HFONT(GetStockObject(DEFAULT_GUI_FONT));
-    return font;
+    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0))
+        GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof metrics.lfMessageFont, &metrics.lfMessageFont);
+    HDC dc = GetDC(nullptr);
+    const int systemDpi = std::max(1, GetDeviceCaps(dc, LOGPIXELSY));
+    ReleaseDC(nullptr, dc);
+    metrics.lfMessageFont.lfHeight = LONG(std::lround(metrics.lfMessageFont.lfHeight * density * 96 / systemDpi));
+    return CreateFontIndirectW(&metrics.lfMessageFont);
 }
 
 LRESULT CALLBACK inputProc(HWND window, UINT message, WPARAM w, LPARAM l)
@@ -46,16 +55,18 @@ LRESULT CALLBACK inputProc(HWND window, UINT message, WPARAM w, LPARAM l)
     return DefWindowProcW(window, message, w, l);
 }
 
-HWND child(HWND parent, LPCWSTR kind, const std::wstring& text, DWORD style, RECT r, int id)
+HWND child(HWND parent, LPCWSTR kind, const std::wstring& text, DWORD style, RECT r, int id, HFONT font)
 {
     HWND h = CreateWindowExW(kind == std::wstring(L"EDIT") ? WS_EX_CLIENTEDGE : 0, kind, text.c_str(),
                              WS_CHILD | WS_VISIBLE | style, r.left, r.top, r.right, r.bottom, parent,
                              reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), nullptr);
-    SendMessageW(h, WM_SETFONT, WPARAM(messageFont()), TRUE);
+    SendMessageW(h, WM_SETFONT, WPARAM(font), TRUE);
     return h;
 }
 
-HWND makeInputWindow(HWND owner, const script::InputBoxRequest& request, InputState& state)
+// The box laid out at 96 dpi, every length scaled by the density.
+HWND makeInputWindow(HWND owner, const script::InputBoxRequest& request, InputState& state, double density,
+                     HFONT font)
 {
     static const ATOM registered = [] {
         WNDCLASSW c{};
@@ -67,7 +78,8 @@ HWND makeInputWindow(HWND owner, const script::InputBoxRequest& request, InputSt
         return RegisterClassW(&c);
     }();
     (void)registered;
-    RECT frame{0, 0, 360, 140};
+    auto s = [density](int v) { return int(std::lround(v * density)); };
+    RECT frame{0, 0, s(360), s(140)};
     AdjustWindowRect(&frame, WS_CAPTION | WS_SYSMENU, FALSE);
     const int w = frame.right - frame.left;
     const int h = frame.bottom - frame.top;
@@ -78,11 +90,13 @@ HWND makeInputWindow(HWND owner, const script::InputBoxRequest& request, InputSt
     if (!window)
         return nullptr;
     SetWindowLongPtrW(window, GWLP_USERDATA, LONG_PTR(&state));
-    child(window, L"STATIC", withCrLf(widen(request.prompt)), SS_LEFT, RECT{10, 10, 250, 80}, -1);
-    child(window, L"BUTTON", L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, RECT{270, 10, 80, 26}, IDOK);
-    child(window, L"BUTTON", L"Annuler", BS_PUSHBUTTON | WS_TABSTOP, RECT{270, 42, 80, 26}, IDCANCEL);
-    HWND edit = child(window, L"EDIT", widen(request.defaultText), ES_AUTOHSCROLL | WS_TABSTOP, RECT{10, 104, 340, 24},
-                      kEditId);
+    // RECTs here are left, top, width, height.
+    child(window, L"STATIC", withCrLf(widen(request.prompt)), SS_LEFT, RECT{s(10), s(10), s(250), s(80)}, -1, font);
+    child(window, L"BUTTON", L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, RECT{s(270), s(10), s(80), s(26)}, IDOK, font);
+    child(window, L"BUTTON", L"Annuler", BS_PUSHBUTTON | WS_TABSTOP, RECT{s(270), s(42), s(80), s(26)}, IDCANCEL,
+          font);
+    HWND edit = child(window, L"EDIT", widen(request.defaultText), ES_AUTOHSCROLL | WS_TABSTOP,
+                      RECT{s(10), s(104), s(340), s(24)}, kEditId, font);
     SendMessageW(edit, EM_SETSEL, 0, -1);
     SetFocus(edit);
     return window;
@@ -97,12 +111,17 @@ int showMessageBox(HWND owner, const MessageRequest& request)
     return answer > 0 ? answer : IDCANCEL;
 }
 
-std::optional<std::string> showInputBox(HWND owner, const script::InputBoxRequest& request)
+std::optional<std::string> showInputBox(HWND owner, const script::InputBoxRequest& request, double density)
 {
     InputState state;
-    HWND window = makeInputWindow(owner, request, state);
-    if (!window)
+    if (!(density > 0) || density > 8)
+        density = 1;
+    HFONT font = messageFont(density);
+    HWND window = makeInputWindow(owner, request, state, density, font);
+    if (!window) {
+        DeleteObject(font);
         return std::nullopt;
+    }
     if (owner)
         EnableWindow(owner, FALSE);
     ShowWindow(window, SW_SHOW);
@@ -117,6 +136,7 @@ std::optional<std::string> showInputBox(HWND owner, const script::InputBoxReques
     if (owner)
         EnableWindow(owner, TRUE);
     DestroyWindow(window);
+    DeleteObject(font);
     if (!state.accepted)
         return std::nullopt;
     return narrow(state.text);

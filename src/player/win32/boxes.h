@@ -15,6 +15,8 @@ namespace qor::player {
 int showMessageBox(HWND owner, const MessageRequest& request);
 
 // InputBox: prompt, text field, "OK" and "Annuler"; nothing when cancelled.
-std::optional<std::string> showInputBox(HWND owner, const script::InputBoxRequest& request);
+// The box, its controls and its font at the density factor of the menu's
+// screen (1 at 96 dpi).
+std::optional<std::string> showInputBox(HWND owner, const script::InputBoxRequest& request, double density = 1);
 
 }  // namespace qor::player

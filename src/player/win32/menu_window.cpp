@@ -287,7 +287,7 @@ int MenuWindow::messageBox(const MessageRequest& request)
 std::optional<std::string> MenuWindow::inputBox(const script::InputBoxRequest& request)
 {
     ++boxesOpen_;
-    std::optional<std::string> answer = showInputBox(owner(), request);
+    std::optional<std::string> answer = showInputBox(owner(), request, density_);
     --boxesOpen_;
     return answer;
 }

@@ -40,6 +40,17 @@ std::wstring longPath(std::wstring path)
     return path;
 }
 
+std::wstring plainPath(std::wstring path)
+{
+    if (path.starts_with(L"\\\\?\\UNC\\"))
+        return L"\\\\" + path.substr(8);
+    if (path.starts_with(L"\\\\?\\"))
+        return path.substr(4);
+    if (path.starts_with(L"UNC\\"))
+        return L"\\\\" + path.substr(4);
+    return path;
+}
+
 std::wstring withCrLf(std::wstring_view text)
 {
     std::wstring out;

@@ -33,11 +33,7 @@ std::wstring shellPath(const std::string& target)
     if (n == 0 || n >= shortPath.size())
         return file;
     shortPath.resize(n);
-    if (shortPath.starts_with(L"\\\\?\\UNC\\"))
-        return L"\\\\" + shortPath.substr(8);
-    if (shortPath.starts_with(L"\\\\?\\"))
-        return shortPath.substr(4);
-    return shortPath;
+    return plainPath(shortPath);
 }
 
 bool shellOpen(const std::string& target, const std::string& arguments)
@@ -60,7 +56,7 @@ std::string Win32System::programPath()
         const DWORD n = GetModuleFileNameW(nullptr, buffer.data(), DWORD(buffer.size()));
         if (n < buffer.size()) {
             buffer.resize(n);
-            return narrow(buffer);
+            return narrow(plainPath(buffer));
         }
         buffer.resize(buffer.size() * 2);
     }

@@ -28,8 +28,11 @@ TEST(ProgramIcon, WhatCannotBeSetSaysWhy)
     };
     for (const std::string& bytes : notIcons)
         EXPECT_EQ(withProgramIcon("MZ-player-bytes", bytes).problem, notIcon) << bytes.size();
-    for (const std::string& program : {std::string(), std::string("MZ-player-bytes"), std::string(0x200, 'M')})
+    for (const std::string& program : {std::string(), std::string("MZ-player-bytes"), std::string(0x200, 'M')}) {
         EXPECT_EQ(withProgramIcon(program, ico).problem, noSlot) << program.size();
+        EXPECT_EQ(withProgramDetails(program, {"Titre", "Moi"}).problem,
+                  "le programme du menu n'a pas d'informations de version") << program.size();
+    }
     EXPECT_EQ(withProgramIcon("MZ-player-bytes", ico).program, "");
 }
 

@@ -205,6 +205,52 @@ private slots:
         QVERIFY(!window_->isVisible());
     }
 
+    // A menu larger than the screen's free area (run again on a 640 x 480
+    // screen, CMakeLists.txt) is reduced as a whole: the window fits and
+    // keeps its proportions, the button in its far corner keeps its place
+    // and its share of the window, a text's font shrinks with it, and the
+    // button is still there to be clicked.
+    void aMenuLargerThanTheScreenIsReducedAsAWhole()
+    {
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        const struct {
+            const char* what;
+            int width, height;   // pixels as designed
+        } rows[] = {
+            {"wider", area.width() * 3 / 2, area.height() / 2},
+            {"taller", area.width() / 2, area.height() * 2},
+            {"both", area.width() * 3, area.height() * 3},
+        };
+        for (const auto& row : rows) {
+            MenuProject p = buttonMenu();
+            p.width = row.width * 15.0f;
+            p.height = row.height * 15.0f;
+            p.button(1).left = (row.width - 60) * 15.0f;
+            p.button(1).top = (row.height - 40) * 15.0f;
+            MenuText& t = p.text(*p.addText());
+            t.fontSize = 20;
+            show(p);
+            const double scale = std::min(area.width() / double(row.width), area.height() / double(row.height));
+            const QRect window = window_->geometry();
+            QVERIFY2(area.contains(window), row.what);
+            QVERIFY2(qAbs(window.width() - row.width * scale) <= 1, row.what);
+            QVERIFY2(qAbs(window.height() - row.height * scale) <= 1, row.what);
+            const QRect button = window_->buttons()[0]->geometry();
+            QVERIFY2(window_->rect().contains(button), row.what);
+            QVERIFY2(qAbs(button.left() - (row.width - 60) * scale) <= 1, row.what);
+            QVERIFY2(qAbs(button.width() - 40 * scale) <= 1, row.what);
+            QVERIFY2(qAbs(window_->texts()[0]->font().pointSizeF() - 20 * scale) < 0.01, row.what);
+            const QImage shot = window_->grab().toImage();
+            QCOMPARE(shot.pixelColor(button.center()), QColor(Qt::red));
+            QCOMPARE(window_->childAt(button.center()), window_->buttons()[0]);
+            QSignalSpy finished(window_.get(), &MenuWindow::finished);
+            const QPoint inside = button.center() - button.topLeft();
+            QTest::mousePress(window_->buttons()[0], Qt::LeftButton, {}, inside);
+            QTest::mouseRelease(window_->buttons()[0], Qt::LeftButton, {}, inside);
+            QVERIFY2(finished.count() == 1, row.what);
+        }
+    }
+
     void aButtonWithoutImagesCanStillBeClicked()
     {
         MenuProject p = buttonMenu();

@@ -128,7 +128,7 @@ std::string_view resource(HMODULE module, LPCWSTR type, int id)
 TEST_F(MenuFile, TheCdIconBecomesTheProgramIcon)
 {
     for (const std::string& ico : {iconFile({16}), iconFile({48, 32, 16}), iconFile({64, 48, 32, 24, 16})}) {
-        const ProgramIcon set = withProgramIcon(player, ico);
+        const ProgramUpdate set = withProgramIcon(player, ico);
         ASSERT_EQ(set.problem, "");
         const std::string compiled = set.program + menuDataBytes(MenuProject(), {"Icône", "Moi"});
         const std::wstring file = tempFolder() + L"qor-tests\\icone\\autorun.exe";
@@ -152,6 +152,66 @@ TEST_F(MenuFile, TheCdIconBecomesTheProgramIcon)
             DestroyIcon(made);
         }
         FreeLibrary(module);
+    }
+}
+
+// One text of a program's version information, as Explorer reads it.
+std::wstring versionText(const std::wstring& file, const wchar_t* key)
+{
+    DWORD ignored = 0;
+    std::string info(GetFileVersionInfoSizeW(file.c_str(), &ignored), '\0');
+    if (info.empty() || !GetFileVersionInfoW(file.c_str(), 0, DWORD(info.size()), info.data()))
+        return L"(none)";
+    void* text = nullptr;
+    UINT length = 0;
+    const std::wstring path = std::wstring(L"\\StringFileInfo\\040C04E4\\") + key;
+    if (!VerQueryValueW(info.data(), path.c_str(), &text, &length) || !text)
+        return L"(none)";
+    return static_cast<const wchar_t*>(text);
+}
+
+// The menu's title and author in the copy's version information, after the
+// CD's icon or without it; an empty one leaves the player's own, the other
+// texts stay, and the menu appended afterwards is still found.
+TEST_F(MenuFile, TheMenuNamesTheProgram)
+{
+    const std::wstring bare = tempFolder() + L"qor-tests\\version\\bare.exe";
+    ASSERT_TRUE(writeFile(bare, player));
+    const std::wstring ownDescription = versionText(bare, L"FileDescription");
+    const std::wstring ownProduct = versionText(bare, L"ProductName");
+    const std::wstring ownCompany = versionText(bare, L"CompanyName");
+    ASSERT_NE(ownDescription, L"(none)");
+    const std::string longTitle(300, 'T');
+    struct Row {
+        std::string title, author;
+        bool icon;
+        std::wstring description, product, company;
+    } rows[] = {
+        {"Démo d'été & co", "Élodie (elodie@exemple.fr)", false, L"Démo d'été & co", L"Démo d'été & co",
+         L"Élodie (elodie@exemple.fr)"},
+        {"", "Moi", true, ownDescription, ownProduct, L"Moi"},
+        {"Menu \u65E5\u672C \U0001F600", "", true, L"Menu \u65E5\u672C \U0001F600", L"Menu \u65E5\u672C \U0001F600", ownCompany},
+        {longTitle, "A", false, std::wstring(255, L'T'), std::wstring(255, L'T'), L"A"},
+    };
+    for (const Row& row : rows) {
+        std::string program = player;
+        if (row.icon) {
+            const ProgramUpdate icon = withProgramIcon(program, iconFile({48, 32}));
+            ASSERT_EQ(icon.problem, "");
+            program = icon.program;
+        }
+        const ProgramUpdate set = withProgramDetails(program, {row.title, row.author});
+        ASSERT_EQ(set.problem, "") << row.title;
+        const std::wstring file = tempFolder() + L"qor-tests\\version\\autorun.exe";
+        ASSERT_TRUE(writeFile(file, set.program + menuDataBytes(MenuProject(), {row.title, row.author})));
+        const LoadResult r = loadMenu(system, narrow(file));
+        ASSERT_TRUE(std::holds_alternative<MenuData>(r)) << row.title;
+        EXPECT_EQ(std::get<MenuData>(r).info.author, row.author);
+        EXPECT_EQ(versionText(file, L"FileDescription"), row.description) << row.title;
+        EXPECT_EQ(versionText(file, L"ProductName"), row.product) << row.title;
+        EXPECT_EQ(versionText(file, L"CompanyName"), row.company) << row.title;
+        for (const wchar_t* kept : {L"FileVersion", L"OriginalFilename", L"ProductVersion"})
+            EXPECT_EQ(versionText(file, kept), versionText(bare, kept)) << row.title;
     }
 }
 

@@ -1,14 +1,19 @@
 #include "screen.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <X11/Xlib.h>
+#include <X11/extensions/Xfixes.h>
+
 #include <chrono>
 #include <cstdio>
 #include <memory>
 #include <sstream>
+#include <string_view>
 #include <thread>
 
 extern char** environ;
@@ -79,6 +84,21 @@ std::optional<Shot> screenShotWhen(int x, int y, std::uint32_t rgb, int timeoutM
         shot = screenShot();
     }
     return shot;
+}
+
+std::optional<PointerPicture> pointerPicture()
+{
+    Display* display = XOpenDisplay(nullptr);
+    if (!display)
+        return std::nullopt;
+    std::optional<PointerPicture> picture;
+    if (XFixesCursorImage* image = XFixesGetCursorImage(display)) {
+        picture = PointerPicture{image->width, image->height, image->xhot, image->yhot,
+                                 std::vector<unsigned long>(image->pixels, image->pixels + image->width * image->height)};
+        XFree(image);
+    }
+    XCloseDisplay(display);
+    return picture;
 }
 
 std::optional<WindowBox> waitForWindow(const std::string& title, int timeoutMs)
@@ -157,11 +177,26 @@ void pressOk(const WindowBox& box)
     }
 }
 
-WineProgram::WineProgram(const std::string& exe)
+WineProgram::WineProgram(const std::string& exe, const std::string& traceFile)
 {
     const char* argv[] = {"wine", exe.c_str(), nullptr};
-    if (posix_spawnp(&pid_, "wine", nullptr, nullptr, const_cast<char* const*>(argv), environ) != 0)
+    std::vector<std::string> variables;
+    for (char** v = environ; *v; ++v)
+        if (traceFile.empty() || std::string_view(*v).substr(0, 10) != "WINEDEBUG=")
+            variables.emplace_back(*v);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    if (!traceFile.empty()) {
+        variables.emplace_back("WINEDEBUG=-all,trace+mci,trace+winmm");
+        posix_spawn_file_actions_addopen(&actions, 2, traceFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    }
+    std::vector<char*> env;
+    for (std::string& v : variables)
+        env.push_back(v.data());
+    env.push_back(nullptr);
+    if (posix_spawnp(&pid_, "wine", &actions, nullptr, const_cast<char* const*>(argv), env.data()) != 0)
         pid_ = -1;
+    posix_spawn_file_actions_destroy(&actions);
 }
 
 WineProgram::~WineProgram()

@@ -22,6 +22,17 @@ std::optional<Shot> screenShot();
 // painted), or the last one taken when timeoutMs passed first.
 std::optional<Shot> screenShotWhen(int x, int y, std::uint32_t rgb, int timeoutMs);
 
+// The pointer's picture as the X server shows it.
+struct PointerPicture {
+    int width = 0;
+    int height = 0;
+    int hotX = 0;
+    int hotY = 0;
+    std::vector<unsigned long> argb;
+    friend bool operator==(const PointerPicture&, const PointerPicture&) = default;
+};
+std::optional<PointerPicture> pointerPicture();
+
 // A top-level window found by its exact title.
 struct WindowBox {
     std::string title;
@@ -47,10 +58,11 @@ void pressKey(const WindowBox& window, const std::string& key);
 // The "OK" of a message box with that one button: bottom centre.
 void pressOk(const WindowBox& box);
 
-// A Windows program under wine, killed when the test ends.
+// A Windows program under wine, killed when the test ends. With a trace
+// file, wine writes there what the program asks of its multimedia calls.
 class WineProgram {
 public:
-    explicit WineProgram(const std::string& exe);
+    explicit WineProgram(const std::string& exe, const std::string& traceFile = {});
     ~WineProgram();
     WineProgram(const WineProgram&) = delete;
     WineProgram& operator=(const WineProgram&) = delete;

@@ -33,6 +33,20 @@ TEST(Wide, LongPathsTakeTheExtendedForm)
         EXPECT_EQ(longPath(c.in), c.out) << narrow(c.in.substr(0, 20));
 }
 
+TEST(Wide, PathsGivenBackTakeThePlainForm)
+{
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {L"C:\\cd\\qor\\autorun.exe", L"C:\\cd\\qor\\autorun.exe"},
+        {L"\\\\?\\C:\\cd\\autorun.exe", L"C:\\cd\\autorun.exe"},
+        {L"\\\\?\\UNC\\serveur\\cd\\autorun.exe", L"\\\\serveur\\cd\\autorun.exe"},
+        {L"UNC\\serveur\\cd\\autorun.exe", L"\\\\serveur\\cd\\autorun.exe"},
+        {L"\\\\serveur\\cd\\autorun.exe", L"\\\\serveur\\cd\\autorun.exe"},
+        {L"UNCLE\\autorun.exe", L"UNCLE\\autorun.exe"},
+    };
+    for (const auto& [in, out] : cases)
+        EXPECT_EQ(plainPath(in), out) << narrow(in);
+}
+
 TEST(Wide, LineBreaksBecomeCrLf)
 {
     struct Case {

@@ -2,10 +2,14 @@
 // in a virtual screen, looked at through screenshots and used with the pointer.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <thread>
 
 #include "menu_maker.h"
 #include "screen.h"
@@ -186,6 +190,116 @@ TEST(WineMenu, TheLayoutHoldsAtEveryDensity)
     }
 }
 
+// The sample menu's quit button clicked on a window at density factor f:
+// no window stays to stand behind the next check's. Without a window
+// manager, a click after another program's window may only activate it.
+void quit(WineProgram& player, const WindowBox& w, double f)
+{
+    std::optional<int> status;
+    for (int attempt = 0; attempt < 3 && !status; ++attempt) {
+        clickAt(w.x + int(229 * f), w.y + int(119 * f));
+        status = player.waitExit(3000);
+    }
+    EXPECT_EQ(status, std::optional<int>(0)) << "the quit button was not reached";
+}
+
+// What of a box's window scales: its size, the widest white run (its text
+// field), the span of its dark pixels (its text) and of those in its top
+// left part (an input box's prompt).
+struct BoxMeasure {
+    int width = 0, height = 0, field = 0, text = 0, prompt = 0;
+};
+
+std::optional<BoxMeasure> measureBox(const std::string& title)
+{
+    const std::optional<WindowBox> box = waitForWindow(title, kStartMs);
+    if (!box)
+        return std::nullopt;
+    std::optional<Shot> shot;
+    // Painted once its frame's face shows inside.
+    for (int tries = 0; tries < 20 && (!shot || shot->at(box->x + box->width / 2, box->y + box->height - 4) == 0); ++tries)
+        shot = screenShotWhen(box->x + 2, box->y + box->height / 2, 0xFF000000u, 200);
+    if (!shot)
+        return std::nullopt;
+    BoxMeasure m{box->width, box->height, 0, 0};
+    int textFirst = box->width, textLast = -1, promptFirst = box->width, promptLast = -1;
+    for (int y = 2; y + 2 < box->height; ++y)
+        for (int x = 2, run = 0; x + 2 < box->width; ++x) {
+            const std::uint32_t c = shot->at(box->x + x, box->y + y);
+            run = c == 0xFFFFFF ? run + 1 : 0;
+            m.field = std::max(m.field, run);
+            if (distance(c, 0) < 120 && y > box->height / 4) {
+                textFirst = std::min(textFirst, x);
+                textLast = std::max(textLast, x);
+            }
+            if (distance(c, 0) < 120 && x < box->width * 7 / 10 && y < box->height * 6 / 10) {
+                promptFirst = std::min(promptFirst, x);
+                promptLast = std::max(promptLast, x);
+            }
+        }
+    m.text = textLast - textFirst + 1;
+    m.prompt = promptLast - promptFirst + 1;
+    return m;
+}
+
+// The InputBox and the message box grow with the screen's density: at 144
+// dpi their size, the input box's text field and prompt and the message's
+// text are half as large again as at 96 dpi. The answer reaches the script,
+// and the background then drags the window.
+TEST(WineMenu, TheBoxesGrowWithTheDensityAndAnswer)
+{
+    struct Restore {
+        ~Restore() { setDensity(96); }
+    } restore;
+    std::map<int, std::pair<BoxMeasure, BoxMeasure>> seen;
+    for (const int dpi : {96, 144}) {
+        setDensity(dpi);
+        TempDir cd;
+        WineProgram player(makeMenu(cd.folder(),
+                                    sampleMenu("Fenetre.Caption = InputBox(\"Votre nom ?\", \"QOR question\")\r\n"
+                                               "MsgBox \"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWW\", 0, \"QOR message\""),
+                                    "QOR boites", sampleFiles()));
+        moveTo(0, 0);
+        const std::optional<WindowBox> w = waitForWindow("QOR boites", kStartMs);
+        ASSERT_TRUE(w) << dpi;
+        const double f = dpi / 96.0;
+        expectPixels(*w, {{"button 1", int(64 * f), int(54 * f), kGreen}});
+        clickAt(w->x + int(64 * f), w->y + int(54 * f));
+        const std::optional<BoxMeasure> input = measureBox("QOR question");
+        ASSERT_TRUE(input) << dpi << ": no input box";
+        const std::optional<WindowBox> question = waitForWindow("QOR question", 1000);
+        ASSERT_TRUE(question) << dpi;
+        typeText(*question, "Paul");
+        pressKey(*question, "Return");
+        const std::optional<BoxMeasure> message = measureBox("QOR message");
+        ASSERT_TRUE(message) << dpi << ": no message box";
+        const std::optional<WindowBox> shown = waitForWindow("QOR message", 1000);
+        ASSERT_TRUE(shown) << dpi;
+        pressOk(*shown);
+        ASSERT_FALSE(waitForWindow("QOR message", 300)) << dpi << ": the message box stayed";
+        seen[dpi] = {*input, *message};
+        const std::optional<WindowBox> answered = waitForWindow("Paul", 5000);
+        ASSERT_TRUE(answered) << dpi << ": the answer did not reach the script";
+        dragBy(answered->x + int(20 * f), answered->y + int(250 * f), 60, 40);
+        const std::optional<WindowBox> moved = waitForWindow("Paul", 5000);
+        ASSERT_TRUE(moved) << dpi;
+        EXPECT_EQ(moved->x, answered->x + 60) << dpi;
+        EXPECT_EQ(moved->y, answered->y + 40) << dpi;
+        quit(player, *moved, f);
+        std::cout << dpi << " dpi: input box " << input->width << "x" << input->height << ", field " << input->field
+                  << ", prompt " << input->prompt
+                  << "; message box " << message->width << "x" << message->height << ", text " << message->text << "\n";
+    }
+    const auto& [input96, message96] = seen[96];
+    const auto& [input144, message144] = seen[144];
+    EXPECT_NEAR(input144.width, input96.width * 1.5, input96.width * 0.05);
+    EXPECT_NEAR(input144.height, input96.height * 1.5, input96.height * 0.08);
+    EXPECT_NEAR(input144.field, input96.field * 1.5, input96.field * 0.03);
+    EXPECT_NEAR(input144.prompt, input96.prompt * 1.5, input96.prompt * 0.1);
+    EXPECT_NEAR(message144.text, message96.text * 1.5, message96.text * 0.1);
+    EXPECT_NEAR(message144.width, message96.width * 1.5, message96.width * 0.1);
+}
+
 // A menu larger than the screen (1100 x 800 on 1024 x 768) is reduced as a
 // whole: all of it on the screen, its quit button in the bottom corner
 // reachable where the reduction put it.
@@ -216,16 +330,27 @@ TEST(WineMenu, AMenuLargerThanTheScreenIsReducedAsAWhole)
 }
 
 // A button loads a picture and opens a sub-menu through "[CHEMIN]", from a
-// copy of the CD in cd/name.
-void showSubMenuFrom(const std::string& name)
+// copy of the CD in cd/name; with onShare, started as \\serveur\partage\name
+// (wine reads \\serveur\partage from the prefix's dosdevices/unc/serveur/partage,
+// made a link to cd).
+void showSubMenuFrom(const std::string& name, bool onShare = false)
 {
     TempDir cd;
     const std::string folder = cd.folder() + name;
     const MenuProject p = sampleMenu("Set image = LoadPicture(\"[CHEMIN]bleu_n.bmp\")\r\n"
                                      "Set exe_f = CreateObject(\"WScript.Shell\")\r\n"
                                      "exe_f.Run(\"[CHEMIN]Sous Menu.exe\")");
-    WineProgram player(makeMenu(folder, p, "QOR dossier", sampleFiles()));
+    std::string exe = makeMenu(folder, p, "QOR dossier", sampleFiles());
     makeMenu(folder, sampleMenu(), "QOR sous menu", sampleFiles(), "Sous Menu.exe");
+    if (onShare) {
+        const std::filesystem::path server = std::filesystem::path(std::getenv("WINEPREFIX")) / "dosdevices/unc/serveur";
+        std::filesystem::create_directories(server);
+        std::filesystem::remove(server / "partage");
+        std::filesystem::create_directory_symlink(cd.folder(), server / "partage");
+        exe = "\\\\serveur\\partage" + name + "\\qor\\autorun.exe";
+        std::replace(exe.begin(), exe.end(), '/', '\\');
+    }
+    WineProgram player(exe);
     const std::optional<WindowBox> w = paintedWindow("QOR dossier");
     ASSERT_TRUE(w) << "the menu window never showed";
     clickAt(w->x + 64, w->y + 54);
@@ -248,6 +373,11 @@ TEST(WineMenu, PicturesAndSubMenusFromAFolderWithAnyName)
     for (const std::string& name : {std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9"), deep}) {
         SCOPED_TRACE(name);
         showSubMenuFrom(name);
+    }
+    // A network share, at its root and in a folder of it.
+    for (const std::string& name : {std::string(), std::string("/Mon CD #2 & \xC3\xA9t\xC3\xA9")}) {
+        SCOPED_TRACE("\\\\serveur\\partage" + name);
+        showSubMenuFrom(name, true);
     }
 }
 
@@ -326,26 +456,134 @@ TEST(WineMenu, TheContextMenuClosesTheMenu)
     EXPECT_EQ(player.waitExit(10000), std::optional<int>(0)) << "Fermer did not end the menu";
 }
 
-// An InputBox's answer reaches the script; the background drags the window.
-TEST(WineMenu, AnInputBoxAnswersAndTheWindowDrags)
+// The pointer over a button is the hand when the menu asks for it, the
+// background's pointer otherwise.
+TEST(WineMenu, TheHandShowsOverButtonsWhenAsked)
 {
+    for (const bool hand : {true, false}) {
+        MenuProject p = sampleMenu();
+        p.handCursor = hand;
+        TempDir cd;
+        WineProgram player(makeMenu(cd.folder(), p, "QOR curseur", sampleFiles()));
+        const std::optional<WindowBox> w = paintedWindow("QOR curseur");
+        ASSERT_TRUE(w) << hand;
+        moveTo(w->x + 20, w->y + 250);
+        const std::optional<PointerPicture> background = pointerPicture();
+        ASSERT_TRUE(background) << "no pointer picture (Xfixes)";
+        moveTo(w->x + 65, w->y + 55);
+        std::optional<PointerPicture> over = pointerPicture();
+        for (int tries = 0; tries < 10 && over == background; ++tries) {
+            moveTo(w->x + 66 + tries % 2, w->y + 55);
+            over = pointerPicture();
+        }
+        EXPECT_EQ(over != background, hand) << (hand ? "no hand over the button" : "a pointer not asked for");
+        quit(player, *w, 1);
+    }
+}
+
+// The timer's script runs again and again until it stops the timer: the
+// caption grows one "+" a tick and the background turns blue at the third.
+TEST(WineMenu, TheTimerRunsUntilItIsStopped)
+{
+    MenuProject p = sampleMenu();
+    p.timerEnabled = true;
+    p.timerInterval = "150";
+    p.timerScript = "Fenetre.Caption = Fenetre.Caption & \"+\"\r\n"
+                    "If Fenetre.Caption = \"QOR minuteur+++\" Then\r\n"
+                    "  Fenetre.BackColor = RGB(0, 0, 255)\r\n"
+                    "  Minuteur.Enabled = False\r\n"
+                    "End If";
     TempDir cd;
-    WineProgram player(makeMenu(cd.folder(), sampleMenu("Fenetre.Caption = InputBox(\"Nom ?\", \"QOR question\")"),
-                                "QOR saisie", sampleFiles()));
-    const std::optional<WindowBox> w = paintedWindow("QOR saisie");
+    moveTo(0, 0);
+    WineProgram player(makeMenu(cd.folder(), p, "QOR minuteur", sampleFiles()));
+    const std::optional<WindowBox> w = waitForWindow("QOR minuteur\\+\\+\\+", kStartMs);
+    ASSERT_TRUE(w) << "the timer did not run three times";
+    expectPixels(*w, {{"the background the timer set", 10, 150, kBlue}});
+    std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    EXPECT_TRUE(waitForWindow("QOR minuteur\\+\\+\\+", 500)) << "the timer ran on after it was stopped";
+    quit(player, *w, 1);
+}
+
+// A button opens a text document of the CD: wine's program for it starts
+// with the document's name in its title.
+TEST(WineMenu, ADocumentOpensInItsProgram)
+{
+    // Every Windows opens .txt with Notepad; a fresh wine prefix has the
+    // program's entry but not the extension's.
+    ASSERT_EQ(std::system("wine reg add \"HKCR\\.txt\" /ve /d txtfile /f >/dev/null 2>&1"), 0);
+    std::map<std::string, std::string> files = sampleFiles();
+    files["lisezmoi.txt"] = "Bonjour\r\n";
+    TempDir cd;
+    WineProgram player(makeMenu(cd.folder(),
+                                sampleMenu("CreateObject(\"WScript.Shell\").Run \"[CHEMIN]lisezmoi.txt\""),
+                                "QOR document", files));
+    const std::optional<WindowBox> w = paintedWindow("QOR document");
     ASSERT_TRUE(w) << "the menu window never showed";
     clickAt(w->x + 64, w->y + 54);
-    const std::optional<WindowBox> box = waitForWindow("QOR question", kStartMs);
-    ASSERT_TRUE(box) << "the input box never showed";
-    typeText(*box, "Paul");
-    pressKey(*box, "Return");
-    const std::optional<WindowBox> answered = waitForWindow("Paul", 5000);
-    ASSERT_TRUE(answered) << "the answer did not reach the script";
-    dragBy(answered->x + 20, answered->y + 250, 60, 40);
-    const std::optional<WindowBox> moved = waitForWindow("Paul", 5000);
-    ASSERT_TRUE(moved);
-    EXPECT_EQ(moved->x, answered->x + 60);
-    EXPECT_EQ(moved->y, answered->y + 40);
+    EXPECT_FALSE(waitForWindow("Erreur !", 1000)) << "the button's script failed";
+    const std::optional<WindowBox> opened = waitForWindow(".*lisezmoi.*", kStartMs);
+    ASSERT_TRUE(opened) << "no window of the document's program";
+    // Closed, so that it hides no later menu.
+    pressKey(*opened, "alt+F4");
+    for (int tries = 0; tries < 30 && waitForWindow(".*lisezmoi.*", 100); ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    quit(player, *w, 1);
+}
+
+// A short silent 8-bit mono WAV file.
+std::string silentWave()
+{
+    std::string w;
+    auto le = [&w](std::uint32_t v, int bytes) {
+        for (int i = 0; i < bytes; ++i, v >>= 8)
+            w += char(v & 0xFF);
+    };
+    constexpr std::uint32_t kSamples = 800;
+    w += "RIFF";
+    le(36 + kSamples, 4);
+    w += "WAVEfmt ";
+    for (const auto& [v, bytes] : {std::pair{16u, 4}, {1u, 2}, {1u, 2}, {8000u, 4}, {8000u, 4}, {1u, 2}, {8u, 2}})
+        le(v, bytes);
+    w += "data";
+    le(kSamples, 4);
+    return w + std::string(kSamples, char(0x80));
+}
+
+// What the trace holds of the three sounds, in its order.
+std::vector<std::string> soundsIn(const std::string& traceFile)
+{
+    std::ifstream in(traceFile);
+    std::vector<std::string> seen;
+    for (std::string line; std::getline(in, line);)
+        for (const char* sound : {"fond.wav", "survol.wav", "clic.wav"})
+            if (line.find(sound) != std::string::npos && (seen.empty() || seen.back() != sound))
+                seen.emplace_back(sound);
+    return seen;
+}
+
+// The background music starts with the menu, the hover sound when the
+// pointer enters a button, the click sound at the click: seen in wine's
+// trace of the player's multimedia calls.
+TEST(WineMenu, SoundsStartAtTheirMoments)
+{
+    MenuProject p = sampleMenu();
+    p.backgroundMusic = "fond.wav";
+    p.hoverSound = "survol.wav";
+    p.clickSound = "clic.wav";
+    std::map<std::string, std::string> files = sampleFiles();
+    for (const char* sound : {"fond.wav", "survol.wav", "clic.wav"})
+        files[sound] = silentWave();
+    TempDir cd;
+    const std::string trace = cd.folder() + "/trace.txt";
+    WineProgram player(makeMenu(cd.folder(), p, "QOR sons", files), trace);
+    const std::optional<WindowBox> w = paintedWindow("QOR sons");
+    ASSERT_TRUE(w) << "the menu window never showed";
+    EXPECT_EQ(soundsIn(trace), (std::vector<std::string>{"fond.wav"}));
+    moveTo(w->x + 65, w->y + 55);
+    EXPECT_EQ(soundsIn(trace), (std::vector<std::string>{"fond.wav", "survol.wav"}));
+    clickAt(w->x + 65, w->y + 55);
+    EXPECT_EQ(soundsIn(trace), (std::vector<std::string>{"fond.wav", "survol.wav", "clic.wav"}));
+    quit(player, *w, 1);
 }
 
 TEST(WineMenu, OutlineCutsTheWindow)
