@@ -206,6 +206,8 @@ void EditorShellView::applyAppearance(WindowId window, const Appearance& appeara
     qor::applyAppearance(*node, appearance);
     if (window == WindowId::PropertiesPanel)
         windows_.properties().keepAppearance(appearance);
+    if (window == WindowId::Main)
+        windows_.main().keepAppearance(appearance);
     // The main window paints its menu titles itself, in the window's colours.
     if (window == WindowId::Main) {
         const QPalette& system = QApplication::palette();
