@@ -349,9 +349,10 @@ void MainWindow::buildLateControls()
         return;
     appearance_ = new AppearanceFrame(this);
     appearance_->hide();
-    // The controls coloured already keep their colours: only the new ones change.
+    // Only the frame's own controls: the rest of the window shows what it
+    // shows now (a highlighted menu title stays highlighted).
     if (appearanceColours_)
-        applyAppearance(*windowNode(*this), *appearanceColours_);
+        applyAppearanceToControls(WidgetControlNode(this, this).controlsWithin(*appearance_), *appearanceColours_);
     if (appearanceBuilt_)
         appearanceBuilt_(*appearance_);
 }
