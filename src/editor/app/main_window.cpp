@@ -10,12 +10,12 @@
 #include <QMouseEvent>
 #include <QShortcut>
 
+#include "core/ui/appearance_rules.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
 #include "editor/platform/twips.h"
 #include "editor/platform/widget_names.h"
-#include "core/ui/appearance_rules.h"
 #include "editor/ui/appearance_frame.h"
 #include "editor/ui/run_time_texts.h"
 #include "model/product.h"
