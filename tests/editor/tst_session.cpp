@@ -28,6 +28,7 @@
 #include "editor/designer/worksheet_window.h"
 #include "editor/platform/colours.h"
 #include "editor/project/file_info_window.h"
+#include "editor/ui/appearance_frame.h"
 #include "editor/ui/mouse_position_window.h"
 #include "editor/wizard/creation_wizard_window.h"
 #include "editor_session.h"
@@ -98,7 +99,7 @@ private slots:
     void pluginsFileProblems_data();
     void pluginsFileProblems();
     void menuTitlesTakeTheCoresColoursAndPlaces();
-    void elementPanelsBuiltLaterTakeTheAppearance();
+    void controlsBuiltLaterTakeTheAppearance();
     void filePropertiesWindow();
     void unreadablePictures_data();
     void unreadablePictures();
@@ -402,24 +403,37 @@ void TestSession::menuTitlesTakeTheCoresColoursAndPlaces()
     QCOMPARE(main.highlightedMenuTitle(), -1);
 }
 
-void TestSession::elementPanelsBuiltLaterTakeTheAppearance()
+void TestSession::controlsBuiltLaterTakeTheAppearance()
 {
     Session s;
     // Red windows, white fields, blue text, Arial.
     Session::write(s.programFile(kOptionsFileName),
                    "non\r\noui\r\noui\r\n 255 \r\n 16777215 \r\n 16711680 \r\nArial\r\nnon\r\noui\r\n");
     QCOMPARE(s.start(), StartOutcome::Running);
-    // The button and text-box panels come after the start coloured the panel.
+    MainWindow& main = s.main();
+    QTest::mouseMove(main.menuTitle(2));
+    QTRY_COMPARE(main.highlightedMenuTitle(), 2);
+    // The button and text-box panels, and the appearance editor's frame, come
+    // after the start coloured their windows.
     PropertiesPanel& panel = s.windows().properties();
-    auto* field = panel.buttonPanel().findChild<QLineEdit*>(QStringLiteral("Text_normale"));
-    auto* command = panel.textPanel().findChild<QPushButton*>(QStringLiteral("Command_supprimer_texte"));
-    QVERIFY(field && command);
-    QCOMPARE(field->palette().color(QPalette::Base), QColor(255, 255, 255));
-    QCOMPARE(field->palette().color(QPalette::Text), QColor(0, 0, 255));
-    QCOMPARE(command->palette().color(QPalette::Button), QColor(255, 0, 0));
-    QCOMPARE(command->palette().color(QPalette::ButtonText), QColor(0, 0, 255));
-    QCOMPARE(command->font().family(), QStringLiteral("Arial"));
-    QVERIFY(!(command->focusPolicy() & Qt::TabFocus));
+    const std::pair<QLineEdit*, QPushButton*> built[] = {
+        {panel.buttonPanel().findChild<QLineEdit*>(QStringLiteral("Text_normale")),
+         panel.textPanel().findChild<QPushButton*>(QStringLiteral("Command_supprimer_texte"))},
+        {main.appearanceFrame()->findChild<QLineEdit*>(QStringLiteral("Text2")),
+         main.appearanceFrame()->findChild<QPushButton*>(QStringLiteral("Command1"))},
+    };
+    for (const auto& [field, command] : built) {
+        QVERIFY(field && command);
+        QCOMPARE(field->palette().color(QPalette::Base), QColor(255, 255, 255));
+        QCOMPARE(field->palette().color(QPalette::Text), QColor(0, 0, 255));
+        QCOMPARE(command->palette().color(QPalette::Button), QColor(255, 0, 0));
+        QCOMPARE(command->palette().color(QPalette::ButtonText), QColor(0, 0, 255));
+        QCOMPARE(command->font().family(), QStringLiteral("Arial"));
+        QVERIFY(!(command->focusPolicy() & Qt::TabFocus));
+    }
+    // Building the frame leaves the rest of the window as it was: the title
+    // under the pointer keeps its highlight.
+    QCOMPARE(main.menuTitle(2)->palette().color(QPalette::Window), QColor(0, 0, 255));
 }
 
 void TestSession::filePropertiesWindow()

@@ -42,7 +42,13 @@ void colourControl(ControlNode& control, const Appearance& a)
 void applyAppearance(ControlNode& window, const Appearance& appearance)
 {
     window.write(ControlProperty::BackColor, colourValue(appearance.windowBack));
-    for (auto& control : window.allControls())
+    applyAppearanceToControls(window.allControls(), appearance);
+}
+
+void applyAppearanceToControls(const std::vector<std::unique_ptr<ControlNode>>& controls,
+                               const Appearance& appearance)
+{
+    for (const auto& control : controls)
         colourControl(*control, appearance);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "core/ui/appearances_file.h"
 #include "core/ui/control_tree.h"
@@ -16,6 +18,11 @@ inline constexpr const char* kKeepDesignTag = "N_DESIGN";
 // fieldBack, every control the text colour and the font; every control
 // leaves the tab order. A property a control lacks is skipped.
 void applyAppearance(ControlNode& window, const Appearance& appearance);
+
+// The same rules for controls a window builds after it took its appearance:
+// the window and its other controls are left as they are.
+void applyAppearanceToControls(const std::vector<std::unique_ptr<ControlNode>>& controls,
+                               const Appearance& appearance);
 
 // The appearance a window takes as it loads, or nothing for the windows that
 // keep their design colours or are coloured with the four main windows.

@@ -38,22 +38,21 @@ private:
 
 AppearanceEditorPanel::AppearanceEditorPanel(MainWindow& main, AppearanceEditor& editor) : main_(main)
 {
-    connectControls(editor);
+    main_.whenAppearanceFrameBuilt([this, &editor](AppearanceFrame& frame) { connectControls(frame, editor); });
 }
 
-void AppearanceEditorPanel::connectControls(AppearanceEditor& editor)
+void AppearanceEditorPanel::connectControls(AppearanceFrame& frame, AppearanceEditor& editor)
 {
-    AppearanceFrame* frame = main_.appearanceFrame();
     const std::pair<const char*, void (AppearanceEditor::*)()> buttons[] = {
         {"Command1", &AppearanceEditor::load}, {"Command2", &AppearanceEditor::save},
         {"Command3", &AppearanceEditor::test}, {"Command4", &AppearanceEditor::close},
         {"Command5", &AppearanceEditor::pickFont},
     };
     for (const auto& [name, action] : buttons)
-        if (auto* b = frame->findChild<QPushButton*>(QString::fromLatin1(name)))
+        if (auto* b = frame.findChild<QPushButton*>(QString::fromLatin1(name)))
             QObject::connect(b, &QPushButton::clicked, b, [&editor, action = action] { (editor.*action)(); });
     for (int i = 0; i < 3; ++i)
-        frame->swatch(i)->installEventFilter(new ClickFilter(frame->swatch(i), [&editor, i] { editor.pickColour(i); }));
+        frame.swatch(i)->installEventFilter(new ClickFilter(frame.swatch(i), [&editor, i] { editor.pickColour(i); }));
 }
 
 void AppearanceEditorPanel::setAppearanceEditorVisible(bool visible)

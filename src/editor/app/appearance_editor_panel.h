@@ -4,6 +4,7 @@
 
 namespace qor {
 
+class AppearanceFrame;
 class MainWindow;
 
 // The appearance editor's view over the main window's "Apparences" frame:
@@ -23,7 +24,7 @@ public:
     void clearNewAppearanceName() override;
 
 private:
-    void connectControls(AppearanceEditor& editor);
+    void connectControls(AppearanceFrame& frame, AppearanceEditor& editor);
 
     MainWindow& main_;
     Appearance fields_;

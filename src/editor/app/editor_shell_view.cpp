@@ -206,8 +206,10 @@ void EditorShellView::applyAppearance(WindowId window, const Appearance& appeara
     qor::applyAppearance(*node, appearance);
     if (window == WindowId::PropertiesPanel)
         windows_.properties().keepAppearance(appearance);
-    // The main window paints its menu titles itself, in the window's colours.
+    // The main window paints its menu titles itself, in the window's colours;
+    // its appearance editor's frame, built later, takes the appearance then.
     if (window == WindowId::Main) {
+        windows_.main().keepAppearance(appearance);
         const QPalette& system = QApplication::palette();
         windows_.main().setTitleColours(toQColor(appearance.windowBack, system), toQColor(appearance.textColor, system));
     }

@@ -2,11 +2,14 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFont>
+#include <QFontMetrics>
 #include <QImageReader>
 #include <QThreadPool>
 #include <QTimer>
 #include <QWindow>
 
+#include "core/ui/appearances_file.h"
 #include "editor/app/main_window.h"
 #include "editor/designer/properties_panel.h"
 #include "editor/designer/toolbox_window.h"
@@ -34,12 +37,28 @@ void loadImageFormatsAhead()
     });
 }
 
+// The appearances name a Windows font that a Linux desktop seldom has: the
+// font database then asks the system for the families that stand in for it,
+// which takes as long as building a window. The answer is kept for the whole
+// process, so asking it here on another processor, while the windows are
+// built, leaves the main thread only the font itself to load when the
+// appearance reaches the windows.
+void findAppearanceFontAhead()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        QThreadPool::globalInstance()->start(
+            [] { (void)QFontMetrics(QFont(QString::fromLatin1(kDefaultFontName))).height(); });
+    });
+}
+
 }  // namespace
 
 EditorWindows::EditorWindows(const ScreenMetrics& screen, WindowHooks& hooks)
     : screen_(screen), hooks_(hooks)
 {
     loadImageFormatsAhead();
+    findAppearanceFontAhead();
     splash_ = std::make_unique<SplashWindow>(screen_, hooks_);
 }
 

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QShortcut>
 
+#include "core/ui/appearance_rules.h"
 #include "editor/app/menu_title_label.h"
 #include "editor/platform/colours.h"
 #include "editor/platform/qt_text.h"
@@ -56,9 +57,6 @@ MainWindow::MainWindow(const ScreenMetrics& screen, WindowHooks& hooks, QWidget*
             connect(shortcut, &QShortcut::activated, this, [this, i] { emit menuTitlePressed(i); });
         }
     }
-
-    appearance_ = new AppearanceFrame(this);
-    appearance_->hide();
 
     setCaption("QOR v" + product::versionText() + " - créateur de menus");
     placeMenuTitles(layOutMenuTitles(menuTitleTextWidths()));
@@ -345,8 +343,37 @@ QString MainWindow::captionFontName() const
 
 // ---- appearance editor -----------------------------------------------------
 
+void MainWindow::buildLateControls()
+{
+    if (appearance_)
+        return;
+    appearance_ = new AppearanceFrame(this);
+    appearance_->hide();
+    // Only the frame's own controls: the rest of the window shows what it
+    // shows now (a highlighted menu title stays highlighted).
+    if (appearanceColours_)
+        applyAppearanceToControls(WidgetControlNode(this, this).controlsWithin(*appearance_), *appearanceColours_);
+    if (appearanceBuilt_)
+        appearanceBuilt_(*appearance_);
+}
+
+AppearanceFrame* MainWindow::appearanceFrame()
+{
+    buildLateControls();
+    return appearance_;
+}
+
+void MainWindow::whenAppearanceFrameBuilt(std::function<void(AppearanceFrame&)> built)
+{
+    appearanceBuilt_ = std::move(built);
+    if (appearance_ && appearanceBuilt_)
+        appearanceBuilt_(*appearance_);
+}
+
 void MainWindow::setAppearanceEditorVisible(bool visible)
 {
+    if (visible)
+        buildLateControls();
     const double outer = visible ? kWithAppearanceHeight : kMenuOnlyHeight;
     const double inner = outer - kFrameAllowance;
     QSize size = twipsToPixels(kInnerWidth, inner, screen_);
@@ -355,15 +382,17 @@ void MainWindow::setAppearanceEditorVisible(bool visible)
     // Fonts larger than the layout was drawn for must not squash the editor.
     if (visible)
         size.setHeight(std::max(size.height(), rowBottom + 2 * margin + appearance_->minimumSizeHint().height()));
-    appearance_->setGeometry(margin, rowBottom + margin, size.width() - 2 * margin,
-                             std::max(0, size.height() - rowBottom - 2 * margin));
-    appearance_->setVisible(visible);
+    if (appearance_) {
+        appearance_->setGeometry(margin, rowBottom + margin, size.width() - 2 * margin,
+                                 std::max(0, size.height() - rowBottom - 2 * margin));
+        appearance_->setVisible(visible);
+    }
     setFixedSize(size);
 }
 
 bool MainWindow::appearanceEditorVisible() const
 {
-    return appearance_->isVisibleTo(this);
+    return appearance_ && appearance_->isVisibleTo(this);
 }
 
 // ---- events ----------------------------------------------------------------

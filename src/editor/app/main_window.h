@@ -8,13 +8,16 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/app/menu_titles.h"
 #include "core/ports/screen.h"
 #include "core/ui/commands.h"
+#include "core/ui/appearances_file.h"
 #include "core/ui/menu_tree.h"
+#include "editor/ui/widget_control_node.h"
 #include "editor/ui/window_hooks.h"
 
 class QAction;
@@ -30,7 +33,7 @@ class MenuTitleLabel;
 // below them. Every command of every menu goes to one dispatch point with
 // its id and, for list entries, its position in the list. The window decides
 // nothing itself: even check marks change only when told to.
-class MainWindow : public QWidget {
+class MainWindow : public QWidget, public LateControls {
     Q_OBJECT
 public:
     static constexpr int kTitleCount = 6;
@@ -100,10 +103,15 @@ public:
     QList<QAction*> pluginActions() const { return plugins_.actions; }
     QList<QAction*> languageActions() const { return languages_.actions; }
 
-    // The appearance editor: revealed by making the window tall.
+    // The appearance editor: revealed by making the window tall. Its frame
+    // is built the first time it is asked for (shown, filled, or its
+    // controls named by a script), and takes the window's appearance then.
     void setAppearanceEditorVisible(bool visible);
     bool appearanceEditorVisible() const;
-    AppearanceFrame* appearanceFrame() const { return appearance_; }
+    AppearanceFrame* appearanceFrame();
+    void whenAppearanceFrameBuilt(std::function<void(AppearanceFrame&)> built);
+    void keepAppearance(const Appearance& appearance) { appearanceColours_ = appearance; }
+    void buildLateControls() override;
 
     // The one-shot timer that resets the titles 300 ms after the load.
     QTimer& titleResetTimer() { return titleReset_; }
@@ -149,6 +157,8 @@ private:
     std::map<CommandId, QAction*> actions_;
     ListSlot recent_, plugins_, languages_;
     AppearanceFrame* appearance_ = nullptr;
+    std::function<void(AppearanceFrame&)> appearanceBuilt_;
+    std::optional<Appearance> appearanceColours_;
     QTimer titleReset_;
     QColor back_, text_;
     int highlighted_ = -1;

@@ -132,6 +132,19 @@ std::vector<std::unique_ptr<ControlNode>> WidgetControlNode::allControls()
     return nodes;
 }
 
+std::vector<std::unique_ptr<ControlNode>> WidgetControlNode::controlsWithin(const QObject& part)
+{
+    std::vector<std::unique_ptr<ControlNode>> nodes;
+    for (QObject* o : windowControls()) {
+        QObject* up = o;
+        while (up && up != &part)
+            up = up->parent();
+        if (up)
+            nodes.push_back(std::make_unique<WidgetControlNode>(o, window_));
+    }
+    return nodes;
+}
+
 std::optional<PropertyValue> WidgetControlNode::readText(ControlProperty property) const
 {
     QObject* o = object_;

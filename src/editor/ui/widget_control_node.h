@@ -35,6 +35,8 @@ public:
     int index() const override;
     std::vector<std::unique_ptr<ControlNode>> controls(std::string_view name) override;
     std::vector<std::unique_ptr<ControlNode>> allControls() override;
+    // The window's controls that are part or lie inside it.
+    std::vector<std::unique_ptr<ControlNode>> controlsWithin(const QObject& part);
     std::optional<PropertyValue> read(ControlProperty property) const override;
     bool write(ControlProperty property, const PropertyValue& value) override;
     bool addItem(const std::string& text) override;
