@@ -25,6 +25,15 @@
 namespace qor {
 namespace {
 
+// Work done ahead while the windows are built. Its threads end as soon as
+// their work is done: once started, the editor runs on its event loop alone.
+QThreadPool& startPool()
+{
+    static QThreadPool pool;
+    pool.setExpiryTimeout(0);
+    return pool;
+}
+
 // The first paint of the windows reads a picture of the style's own (the
 // frame of a group box), and the first picture read loads every image format
 // plug-in. Loaded meanwhile on another processor, while the windows are
@@ -33,7 +42,7 @@ void loadImageFormatsAhead()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        QThreadPool::globalInstance()->start([] { (void)QImageReader::supportedImageFormats(); });
+        startPool().start([] { (void)QImageReader::supportedImageFormats(); });
     });
 }
 
@@ -47,7 +56,7 @@ void findAppearanceFontAhead()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        QThreadPool::globalInstance()->start(
+        startPool().start(
             [] { (void)QFontMetrics(QFont(QString::fromLatin1(kDefaultFontName))).height(); });
     });
 }
