@@ -354,8 +354,10 @@ EMSCRIPTEN_KEEPALIVE int qor_start(const char* menuFile)
     MenuPlace place = MenuPlace::of(menuFile, '/', "D");
     s.player = std::make_unique<Player>(std::get<qor::MenuData>(std::move(loaded)), std::move(place), s.view, s.media,
                                         s.system);
-    // The native players' step budget: a script that runs on the CD runs
-    // here too, and an endless one is stopped after a second or two.
+    // The step budget stays the native players' own: a script that runs on
+    // the CD runs here too, and an endless one is stopped after a second or
+    // two.
+    //
     // The browser's own stack (about 1 MB) is spent three times faster than
     // the engine's measure of it, and running out of it leaves the player
     // half unwound: 128 KB by that measure stops a recursion at about 600
